@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+
+#include "game/Zarpi.h"
+#include "stage/Empujador.h"
+#include "stage/Secuencias.h"
+
+namespace juego {
+
+/// How a letter reaches the word: past the locks and the test for a repeat, to the positions of the word that its level
+/// has not given away.
+class Letras {
+public:
+    /// `siguiente` starts the next word.
+    Letras(Zarpi& zarpi, Dialogs& dialogs, Empujador& empujador, Secuencias& secuencias,
+           std::function<void()> siguiente)
+        : z(zarpi), dialogs(dialogs), empujador(empujador), secuencias(secuencias), siguiente(std::move(siguiente)) {}
+
+    /// A character typed anywhere in the main window, Windows-1252.
+    void Form_KeyPress(int keyAscii);
+    /// A click on an on-screen key, 1 to 27.
+    void lblTecla_Click(int index);
+
+    /// Whether `Letra` has been tried in this word; if so it says so.
+    bool EsRepetida();
+    /// The tried look for the on-screen key of `Letra`.
+    void MarcarTecla();
+    /// Tests `Letra` against the word. The caller has set `fAcierto` False.
+    void Comprobar();
+
+private:
+    bool SeAdmite();
+    void ProbarLetra();
+    void Descubrir(int first, int last);
+    void Acertar();
+
+    Zarpi& z;
+    Dialogs& dialogs;
+    Empujador& empujador;
+    Secuencias& secuencias;
+    std::function<void()> siguiente;
+};
+
+/// Takes the hero's words and the invitation away, when the player acts.
+void CallarZarpi(Zarpi& zarpi);
+
+}  // namespace juego

@@ -1,0 +1,214 @@
+#include "engine/Partida.h"
+
+#include <algorithm>
+
+#include "sound/Sonido.h"
+#include "stage/Escena.h"
+#include "store/Plural.h"
+
+namespace juego {
+
+namespace {
+
+constexpr int kLastWord = 30;
+constexpr int kFirstSavable = 3;
+constexpr int kJokerWord = 16;
+constexpr int kLastOfFirstHalf = 15;
+constexpr int kJokersAtStart = 3;
+constexpr int kFirstScene = 2;
+constexpr int kRowWidth = 8560;
+constexpr int kBoxStep = 780;
+constexpr double kFreeSize = 24;
+constexpr int kZarpisWithJoker = 200;
+
+/// The plain vowel of an accented one; any other letter as it is.
+char16_t WithoutAccent(char16_t letter) {
+    constexpr TextView kAccented = u"ÁÉÍÓÚ";
+    constexpr TextView kPlain = u"AEIOU";
+    const auto vowel = kAccented.find(letter);
+    return vowel == TextView::npos ? letter : kPlain[vowel];
+}
+
+void MostrarComodines(Zarpi& z) {
+    for (Label& box : z.lblComodín) {
+        box.Visible = box.Index <= z.comodines;
+        box.ToolTipText = box.Index == 1 ? u"Comodín activo." : u"Comodín inactivo.";
+    }
+}
+
+template <std::size_t N>
+void Vaciar(std::array<Text, N>& texts) {
+    for (Text& text : texts) text.clear();
+}
+
+}  // namespace
+
+void Partida::mnuNuevo_Click() {
+    z.lblMenComienzo.Caption =
+        u"Comienza a introducir letras hasta que aciertes la palabra clave. Usa los comodines (?) cuando lo desees.";
+    z.Alter = 0;
+    z.puntos = 0;
+    z.plenos = 0;
+    screens.Puntos.f200 = false;
+    z.anónimo = z.Nombre;
+    z.NúmNivel = 1;
+    z.NúmPalabra = 0;
+    z.comodines = kJokersAtStart;
+    AbrirPartida();
+    z.picFondo(kFirstScene).Visible = true;
+    SiguientePalabra();
+    forms.ShowModal(screens.Nombre);
+}
+
+void Partida::NuevoReanudar() {
+    screens.Puntos.f200 = z.puntos > kZarpisWithJoker;
+    AbrirPartida();
+    z.plural = NombraVarios(z.Nombre);
+    z.lblMenComienzo.Visible = false;
+    z.lblComentario.Visible = false;
+    z.lblMensajeError.Visible = false;
+    SeleccionarFondo(z);
+    --z.NúmPalabra;
+    z.lblNombre.Caption = Trim(z.Nombre);
+    z.fReanudar = true;
+    z.fPrimerComentario = true;
+    SiguientePalabra();
+}
+
+/// What the start of a new game and that of a resumed one have in common.
+void Partida::AbrirPartida() {
+    RetirarCaída(z);
+    CallarCaída(z);
+    z.Label5.Caption.clear();
+    z.Traducción.clear();
+    z.plural = false;
+    z.VecesAngustia = 0;
+    z.fTiempoAgotado = false;
+    z.fFinPartida = false;
+    z.fVictoria = false;
+    z.NúmUsadas = 0;
+    Vaciar(z.PalabrasUsadas);
+    z.lblPuntos.Caption = Decimal(z.puntos);
+    z.lblPlenos.Caption = Decimal(z.plenos);
+    for (Label* label : {&z.lblMensajeTiem, &z.lblTiempo, &z.Label8, &z.lblNombre}) label->Visible = true;
+    z.Shape1.Visible = true;
+    z.mnuNuevo.Enabled = false;
+    z.mnuReanudar.Enabled = false;
+    for (const Modo& modo : Modos) (z.*modo.Entrada).Enabled = false;
+    for (const TiempoPalabra& tiempo : Tiempos) (z.*tiempo.Entrada).Enabled = false;
+    // A game that ended other than by a fall may have left its keyboard open.
+    OcultarTeclado(z);
+    z.cmdMostrar.Visible = true;
+    z.cmdMostrar.Enabled = true;
+    z.shpMosOcul.Visible = true;
+    MostrarComodines(z);
+    OcultarFondos(z);
+}
+
+void Partida::SiguientePalabra() {
+    z.fAcierto = false;
+    ++z.NúmPalabra;
+    if (z.NúmPalabra > kLastWord) {
+        fin.PartidaGanada();
+        return;
+    }
+    if (z.NúmPalabra >= kFirstSavable) z.mnuGuardar.Enabled = true;
+    ComodínPalabra16();
+    VaciarTablero();
+    ReponerEscena(z);
+    SacarPalabra();
+    const Nivel level = NivelDePalabra(z.NúmPalabra, z.fDiezPalabras);
+    z.NúmNivel = level.Número;
+    MostrarPalabra(level);
+    AbrirPalabra(level.EsPrimera);
+    z.Fallo = 0;
+    z.HoraPalabra = clock.Time();
+    comentario.ComentarioPalabra();
+    z.lblComentario.Visible = true;
+    z.lblComentario.Caption = z.picZarpi.ToolTipText;
+    z.tmrTiempo.Start();
+}
+
+void Partida::VaciarTablero() {
+    z.Aciertos = 0;
+    z.NúmIntentadas = 0;
+    z.Traducción.clear();
+    for (Label& key : z.lblTecla) {
+        key.BorderStyle = 0;
+        key.FontSize = kFreeSize;
+    }
+    Vaciar(z.LetrasIntentadas);
+    for (Shape& frame : z.shpRecuadro) frame.Visible = false;
+    for (Label& box : z.lblLetra) box.Caption.clear();
+}
+
+/// The language of the word: the halves of mode 2 first, then the bounds of modes 1, 3 and 4, else by turns.
+bool Partida::EsCastellana() {
+    if (z.fInglésCaste) return z.NúmPalabra > kLastOfFirstHalf;
+    if (!z.fAlterna) return z.NúmPalabra < z.TopeCastellano;
+    if (!z.fReanudar) z.Alter = z.Alter == 1 ? 2 : 1;
+    return z.Alter == 1;
+}
+
+void Partida::SacarPalabra() {
+    const bool spanish = EsCastellana();
+    if (spanish) {
+        sorteo.SacarPalabraCastellano();
+        SinAcentos();
+    } else {
+        sorteo.SacarPalabraInglés();
+    }
+    z.lblTapa1.Visible = spanish;
+    z.lblTapa2.Visible = !spanish;
+}
+
+void Partida::SinAcentos() {
+    z.PalabraMensaje = z.PalabraClave + u".";
+    std::ranges::transform(z.PalabraClave, z.PalabraClave.begin(), WithoutAccent);
+}
+
+void Partida::ColocarRecuadros() {
+    z.PosiciónLetra = static_cast<Integer>((kRowWidth - kBoxStep * z.LargoPalabra) / 2);
+    for (int i = 1; i <= z.LargoPalabra; ++i) {
+        z.shpRecuadro(i).Left = z.PosiciónLetra;
+        z.shpRecuadro(i).Visible = true;
+        z.lblLetra(i).Left = z.PosiciónLetra;
+        z.ZOrder(z.lblLetra(i));
+        z.PosiciónLetra = static_cast<Integer>(z.PosiciónLetra + kBoxStep);
+    }
+}
+
+void Partida::MostrarPalabra(const Nivel& level) {
+    ColocarRecuadros();
+    if (level.Dadas != LetrasDadas::Ninguna) {
+        z.PrimeraLetra = z.PalabraClave.front();
+        z.lblLetra(1).Caption = z.PrimeraLetra;
+    }
+    if (level.Dadas == LetrasDadas::PrimeraYÚltima) {
+        z.ÚltimaLetra = z.PalabraClave.back();
+        z.lblLetra(z.LargoPalabra).Caption = z.ÚltimaLetra;
+    }
+    z.lblPalabra.Caption = Decimal(z.NúmPalabra);
+    z.lblNivel.Caption = Decimal(z.NúmNivel);
+}
+
+/// The screens between two words: the briefing of a new level, then the tally of the word before. A resumed game has
+/// neither.
+void Partida::AbrirPalabra(bool firstOfLevel) {
+    if (z.fReanudar) {
+        z.fReanudar = false;
+        return;
+    }
+    if (firstOfLevel) forms.ShowModal(screens.Nivel);
+    SeleccionarFondo(z);
+    if (z.NúmPalabra > 1) forms.ShowModal(screens.Puntos);
+}
+
+void Partida::ComodínPalabra16() {
+    if (z.fReanudar || z.NúmPalabra != kJokerWord) return;
+    DarComodín(z);
+    z.Label5.Caption = u"Has llegado a la palabra 16. Comodín extra.";
+    Sonar(media, z, z.sonPal16, sonidos::Palabra16);
+}
+
+}  // namespace juego

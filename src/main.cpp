@@ -1,0 +1,11 @@
+// zarpi: the game in its window.
+
+#include "platform/desktop/Desktop.h"
+#include "shell/Juego.h"
+
+int main(int argc, char** argv) {
+    platform::desktop::Desktop desktop(argc, argv);
+    juego::Juego juego(desktop.Services());
+    juego.Start();
+    return desktop.Run();
+}

@@ -1,0 +1,175 @@
+#include "platform/Screen.h"
+
+#include <algorithm>
+
+namespace platform {
+
+bool Screen::Contains(const std::vector<Form*>& forms, const Form& form) const {
+    return std::ranges::find(forms, &form) != forms.end();
+}
+
+void Screen::Load(Form& form) {
+    if (Contains(loaded_, form)) return;
+    loaded_.push_back(&form);
+    for (Timer* timer : form.Timers()) timer->Attach(scheduler_);
+    form.ToDesign();
+    if (form.OnLoad) form.OnLoad();
+}
+
+void Screen::Open(Form& form, bool modal) {
+    Load(form);
+    if (!Contains(loaded_, form) || Contains(shown_, form)) return;
+    shown_.push_back(&form);
+    if (modal) modal_.push_back(&form);
+    display_.Opened(form, modal);
+}
+
+void Screen::Show(Form& form) {
+    Open(form, false);
+}
+
+void Screen::ShowModal(Form& form) {
+    Open(form, true);
+    display_.Refresh();
+    display_.WaitUntil([this, &form] { return !Contains(shown_, form); });
+}
+
+void Screen::Hide(Form& form) {
+    if (!Contains(shown_, form)) return;
+    std::erase(shown_, &form);
+    std::erase(modal_, &form);
+    display_.Closed(form);
+}
+
+void Screen::Unload(Form& form) {
+    if (!Contains(loaded_, form) || Contains(closing_, form)) return;
+    closing_.push_back(&form);
+    if (form.OnQueryUnload) form.OnQueryUnload();
+    for (Timer* timer : form.Timers()) timer->Stop();
+    Hide(form);
+    std::erase(loaded_, &form);
+    std::erase(closing_, &form);
+}
+
+Refusal Screen::Reach(const Form& form) const {
+    if (!Contains(shown_, form) || Contains(closing_, form)) return Refusal::Closed;
+    const auto place = std::ranges::find(shown_, &form);
+    const bool blocked = std::any_of(place + 1, shown_.end(), [this](Form* above) { return Contains(modal_, *above); });
+    return blocked ? Refusal::Blocked : Refusal::None;
+}
+
+Refusal Screen::Reach(const Control& control) const {
+    if (const Refusal refusal = Reach(control.Owner); refusal != Refusal::None) return refusal;
+    if (!control.Visible) return Refusal::Hidden;
+    return control.IsEnabled() ? Refusal::None : Refusal::Disabled;
+}
+
+void Screen::Run(const std::function<void()>& handler) {
+    if (handler) handler();
+    display_.Refresh();
+}
+
+Refusal Screen::Click(Control& control) {
+    const Refusal refusal = Reach(control);
+    if (refusal != Refusal::None) return refusal;
+    if (TabIndexOf(control) != 0) control.Owner.SetFocus(control);
+    Run(control.Click);
+    return Refusal::None;
+}
+
+Refusal Screen::Click(Form& form) {
+    const Refusal refusal = Reach(form);
+    if (refusal == Refusal::None) Run(form.OnClick);
+    return refusal;
+}
+
+Refusal Screen::Close(Form& form) {
+    const Refusal refusal = Reach(form);
+    if (refusal == Refusal::None) Run([this, &form] { Unload(form); });
+    return refusal;
+}
+
+void Screen::Focus(Control& control) {
+    if (Reach(control) == Refusal::None && TabIndexOf(control) != 0) control.Owner.SetFocus(control);
+}
+
+Text Screen::Acceptable(const TextBox& box, TextView text) {
+    Text accepted;
+    for (const char16_t c : text) {
+        const bool full = box.MaxLength > 0 && accepted.size() >= static_cast<std::size_t>(box.MaxLength);
+        if (!full && c >= u' ' && ToWindows1252(c)) accepted += c;
+    }
+    return accepted;
+}
+
+Refusal Screen::Type(TextBox& box, TextView text) {
+    Refusal refusal = Reach(box);
+    if (refusal == Refusal::None && box.Locked) refusal = Refusal::Disabled;
+    if (refusal != Refusal::None) return refusal;
+    if (TabIndexOf(box) != 0) box.Owner.SetFocus(box);
+    box.Text = Acceptable(box, text);
+    display_.Refresh();
+    return Refusal::None;
+}
+
+Refusal Screen::Select(ListBox& list, int index) {
+    const Refusal refusal = Reach(list);
+    if (refusal != Refusal::None || index < 0 || index >= static_cast<int>(list.List.size())) return refusal;
+    list.ListIndex = index;
+    return Click(list);
+}
+
+bool Screen::PressShortcut(Form& form, const Key& key) {
+    const auto menus = form.Menus();
+    const auto menu = std::ranges::find_if(menus, [&key](const Menu* m) {
+        return m->Shortcut.Code != KeyNone && m->Shortcut.Code == key.Code && m->Shortcut.Control == key.Control;
+    });
+    if (menu == menus.end()) return false;
+    Click(**menu);
+    return true;
+}
+
+bool Screen::PressButton(Form& form, const Key& key) {
+    Control* const focus = form.Focus();
+    const bool onButton = focus != nullptr && focus->kind == Kind::CommandButton;
+    if ((key.Code == KeyEnter || key.Code == KeySpace) && onButton) return Click(*focus) == Refusal::None;
+    for (Control* control : form.Controls()) {
+        if (control->kind != Kind::CommandButton) continue;
+        const auto& button = static_cast<const CommandButton&>(*control);
+        const bool meant = (key.Code == KeyEnter && button.Default) || (key.Code == KeyEscape && button.Cancel);
+        if (meant && Click(*control) == Refusal::None) return true;
+    }
+    return false;
+}
+
+void Screen::PressPreview(Form& form, const Key& key) {
+    if (!form.KeyPreview || key.Character == 0 || !form.OnKeyPress) return;
+    const int keyAscii = ToWindows1252(key.Character).value_or('?');
+    Run([&form, keyAscii] { form.OnKeyPress(keyAscii); });
+}
+
+bool Screen::Press(const Key& key) {
+    if (Front() == nullptr || Reach(*Front()) != Refusal::None) return false;
+    Form& form = *Front();
+    if (form.KeyPreview && form.OnKeyDown) Run([&form, &key] { form.OnKeyDown(key.Code); });
+    if (PressShortcut(form, key)) return true;
+    // Esc belongs to the cancel button alone; every other key with a character is seen by the form first.
+    if (key.Code == KeyEscape && PressButton(form, key)) return true;
+    PressPreview(form, key);
+    return Front() != &form || PressButton(form, key);
+}
+
+void Screen::TypeKey(const Key& key) {
+    Control* const focus = Front() == nullptr ? nullptr : Front()->Focus();
+    if (focus == nullptr || focus->kind != Kind::TextBox || key.Character < u' ') return;
+    auto& box = static_cast<TextBox&>(*focus);
+    Type(box, box.Text + key.Character);
+}
+
+bool Screen::Tick(Moment now) {
+    Timer* const timer = scheduler_.TakeDue(now);
+    if (timer != nullptr) Run(timer->Click);
+    return timer != nullptr;
+}
+
+}  // namespace platform

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/Scheduler.h"
+#include "platform/Services.h"
+
+namespace platform {
+
+/// How a platform brings windows before the player's eyes. Screen calls it; it holds none of the rules.
+class Display {
+public:
+    virtual ~Display() = default;
+
+    /// A form that was not on the screen comes up before all others.
+    virtual void Opened(Form& form, bool modal) = 0;
+    /// A form leaves the screen.
+    virtual void Closed(Form& form) = 0;
+    /// An event has run to its end, or a modal form begins to wait: what has changed in the open forms is to be shown.
+    virtual void Refresh() = 0;
+    /// Takes the player's input until `done` holds.
+    virtual void WaitUntil(const std::function<bool()>& done) = 0;
+    /// Ends the program; does not come back.
+    virtual void End() = 0;
+};
+
+/// Why an event does not reach an element.
+enum class Refusal { None, Closed, Blocked, Hidden, Disabled };
+
+/// The rules of windows that both platforms keep: which forms are loaded and shown, what a modal form blocks, which
+/// element an event reaches, key preview, shortcuts, default and cancel buttons, closing routines, timers.
+class Screen : public Forms {
+public:
+    Screen(Display& display, Scheduler& scheduler) : display_(display), scheduler_(scheduler) {}
+
+    void Load(Form& form) override;
+    void Show(Form& form) override;
+    void ShowModal(Form& form) override;
+    void Hide(Form& form) override;
+    void Unload(Form& form) override;
+    void End() override { display_.End(); }
+
+    // What the player does. Each runs its handlers to their end and then refreshes the display.
+
+    Refusal Click(Control& control);
+    Refusal Click(Form& form);
+    /// A key for the form in front: key preview, shortcuts, default and cancel button. False: it goes on to the
+    /// element that has the focus.
+    bool Press(const Key& key);
+    /// A key for the text box that has the focus, if there is one: its character goes to the end of the text.
+    void TypeKey(const Key& key);
+    /// The text of a text box as the player leaves it, within the limits of the box.
+    Refusal Type(TextBox& box, TextView text);
+    /// Line `index` of a list box; one that it does not have is ignored.
+    Refusal Select(ListBox& list, int index);
+    /// The closing cross of a form.
+    Refusal Close(Form& form);
+    /// The player moves the focus.
+    void Focus(Control& control);
+    /// Runs the first timer that is due; false when none is.
+    bool Tick(Moment now);
+
+    /// The forms on the screen, back to front.
+    [[nodiscard]] const std::vector<Form*>& Shown() const { return shown_; }
+    [[nodiscard]] Form* Front() const { return shown_.empty() ? nullptr : shown_.back(); }
+    /// Whether the player can reach a form, and an element of it.
+    [[nodiscard]] Refusal Reach(const Form& form) const;
+    [[nodiscard]] Refusal Reach(const Control& control) const;
+
+    /// The part of a text that a text box takes.
+    static Text Acceptable(const TextBox& box, TextView text);
+
+private:
+    bool Contains(const std::vector<Form*>& forms, const Form& form) const;
+    void Open(Form& form, bool modal);
+    void Run(const std::function<void()>& handler);
+    bool PressShortcut(Form& form, const Key& key);
+    bool PressButton(Form& form, const Key& key);
+    void PressPreview(Form& form, const Key& key);
+
+    Display& display_;
+    Scheduler& scheduler_;
+    std::vector<Form*> loaded_;
+    std::vector<Form*> shown_;
+    std::vector<Form*> modal_;
+    std::vector<Form*> closing_;
+};
+
+}  // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Services.h"
+
+namespace platform::desktop {
+
+/// The whole platform: windows, sound, printer, files. There is one in a program.
+///
+///     int main(int argc, char** argv) {
+///         platform::desktop::Desktop desktop(argc, argv);
+///         Game game(desktop.Services());
+///         game.Start();
+///         return desktop.Run();
+///     }
+class Desktop {
+public:
+    /// Settles the game folder, which is the current one from here on. If a game is already running there it says so
+    /// and ends the program.
+    Desktop(int& argc, char** argv);
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    /// What the game works with; lives as long as this does.
+    platform::Services& Services();
+
+    /// Takes the player's input until no form is open. The exit status of the program.
+    int Run();
+
+private:
+    class Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace platform::desktop

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Services.h"
+
+class QPrinter;
+class QWidget;
+
+namespace platform::desktop {
+
+class WindowDisplay;
+
+/// Prints windows as they stand, texts and figures as vectors, as large as the paper allows within its margins.
+class FormPrinter : public Printer {
+public:
+    explicit FormPrinter(WindowDisplay& display);
+    ~FormPrinter() override;
+
+    bool ShowDialog() override;
+    void PrintForm(const Form& form) override;
+
+private:
+    WindowDisplay& display_;
+    std::unique_ptr<QPrinter> printer_;  // the printer chosen last; null before
+};
+
+/// Draws the client area of a window onto a page.
+void PrintWidget(QWidget& widget, QPrinter& printer);
+
+}  // namespace platform::desktop

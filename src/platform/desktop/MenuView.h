@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <optional>
+#include <vector>
+
+#include "platform/Screen.h"
+
+namespace platform::desktop {
+
+/// The menu bar of a form. Shortcuts are shown and not taken: keys go by the rules of the screen. Check marks show the
+/// state of the entries and never change by a click.
+class MenuView {
+public:
+    /// The bar and its menus belong to `window`.
+    MenuView(Screen& screen, Form& form, QWidget& window);
+
+    /// Shows what has changed since the last time.
+    void Refresh();
+    [[nodiscard]] QMenuBar& Bar() const { return bar_; }
+
+private:
+    struct Entry {
+        const Menu* menu;
+        QAction* action;
+        std::optional<MenuLook> shown;
+    };
+    void AddEntry(Menu& menu);
+    [[nodiscard]] QMenu* MenuOf(const Menu& parent) const;
+    static void Show(const Entry& entry);
+
+    Screen& screen_;
+    QMenuBar& bar_;
+    std::vector<Entry> entries_;
+};
+
+}  // namespace platform::desktop

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Services.h"
+
+class QWidget;
+
+namespace platform::desktop {
+
+class WindowDisplay;
+
+/// The date and time of the machine.
+class SystemClock : public Clock {
+public:
+    [[nodiscard]] Date Today() const override;
+    [[nodiscard]] std::int32_t Time() const override;
+    [[nodiscard]] double Timer() const override;
+};
+
+/// Opens pages in the player's own browser.
+class SystemBrowser : public Web {
+public:
+    void Navigate(TextView address) override;
+};
+
+/// Message boxes over the window in front.
+class MessageDialogs : public Dialogs {
+public:
+    explicit MessageDialogs(WindowDisplay& display) : display_(display) {}
+
+    void Beep() override;
+    void MsgBox(TextView text, TextView title) override;
+
+private:
+    WindowDisplay& display_;
+};
+
+/// A warning in plain text with one button; `owner` may be null.
+void ShowWarning(QWidget* owner, TextView text, TextView title);
+
+}  // namespace platform::desktop

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Services.h"
+
+namespace platform::headless {
+
+/// The files of the current folder, by means of the standard library alone. It stores nothing for good against a power
+/// failure, as the contract of a real platform asks.
+class FolderFiles : public Files {
+public:
+    std::optional<std::string> Read(std::string_view name) override;
+    std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
+    bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;
+    bool Replace(std::string_view name, std::string_view content) override;
+};
+
+}  // namespace platform::headless

@@ -1,0 +1,101 @@
+#include "shell/Juego.h"
+
+#include "engine/Elecciones.h"
+#include "shell/PáginaWeb.h"
+#include "shell/Teclado.h"
+#include "stage/Escena.h"
+#include "store/Guardadas.h"
+
+namespace juego {
+
+Juego::Juego(const Services& services)
+    : s(services),
+      reanudar(z, s.Forms, s.Dialogs, s.Files, índices,
+               {[this](int modo) { ElegirModo(z, modo); }, [this](int minutos) { ElegirTiempo(z, minutos); },
+                [this] { partida.NuevoReanudar(); }}) {
+    ConectarVentana();
+    ConectarMenús();
+}
+
+void Juego::Start() {
+    s.Forms.Load(z);
+}
+
+void Juego::ConectarVentana() {
+    z.OnLoad = [this] { Form_Load(); };
+    z.OnQueryUnload = [this] { s.Forms.End(); };
+    z.OnKeyPress = [this](int keyAscii) { letras.Form_KeyPress(keyAscii); };
+    z.lblTecla.OnClick([this](int index) { letras.lblTecla_Click(index); });
+    z.lblComodín.OnClick([this](int index) { comodines.lblComodín_Click(index); });
+    z.lblLetra.OnClick([this](int index) { comodines.lblLetra_Click(index); });
+    z.tmrTiempo.Click = [this] { reloj.tmrTiempo_Timer(); };
+    z.cmdMostrar.Click = [this] { cmdMostrar_Click(z, s.Media); };
+    z.cmdOcultar.Click = [this] { cmdOcultar_Click(z, s.Media); };
+    z.cmdDorvanquil.Click = [this] { s.Web.Navigate(PáginaWeb); };
+}
+
+void Juego::ConectarMenús() {
+    const auto shows = [this](Form& form) { return [this, &form] { s.Forms.ShowModal(form); }; };
+    const auto showsBoard = [this](Integer modo) {
+        return [this, modo] {
+            z.ModoHonor = modo;
+            s.Forms.ShowModal(cuadro);
+        };
+    };
+    for (const Modo& modo : Modos) (z.*modo.Entrada).Click = [this, &modo] { ElegirModo(z, modo.Número); };
+    for (const TiempoPalabra& tiempo : Tiempos) {
+        (z.*tiempo.Entrada).Click = [this, &tiempo] { ElegirTiempo(z, tiempo.Minutos); };
+    }
+    z.mnuNuevo.Click = [this] { partida.mnuNuevo_Click(); };
+    z.mnuReanudar.Click = shows(reanudar);
+    z.mnuGuardar.Click = shows(guardar);
+    z.mnuÚltimas.Click = shows(últimas);
+    z.mnuSonido.Click = [this] { mnuSonido_Click(z); };
+    z.mnuSalir.Click = [this] { s.Forms.End(); };
+    z.mnuCasteInglésHonor.Click = showsBoard(1);
+    z.mnuInglésCasteHonor.Click = showsBoard(2);
+    z.mnuCasteHonor.Click = showsBoard(3);
+    z.mnuInglésHonor.Click = showsBoard(4);
+    z.mnuCasteoInglésHonor.Click = showsBoard(5);
+    z.mnuNormas.Click = shows(normas);
+    z.mnuAcerca.Click = shows(acerca);
+}
+
+/// What follows the victory screen: the prize, then the board of the mode played.
+void Juego::Premiar() {
+    s.Forms.ShowModal(diploma);
+    s.Forms.ShowModal(cuadro);
+}
+
+/// The fields have their values at start-up already; here the window learns what lies in the files.
+void Juego::Form_Load() {
+    s.Forms.Show(presenta);
+    z.Días = {u"", u"DOMINGO", u"LUNES", u"MARTES", u"MIÉRCOLES", u"JUEVES", u"VIERNES", u"SÁBADO"};
+    for (std::size_t i = 1; i < z.Músicas.size(); ++i) {
+        z.Músicas[i] = (i < 10 ? u"Musica0" : u"Musica") + Decimal(static_cast<int>(i)) + u".mid";
+    }
+    z.cmdDorvanquil.Caption = PáginaWeb;
+    OcultarFondos(z);
+    z.picFondo(2).Visible = true;
+    z.último = static_cast<Integer>(ContarGuardadas(z, s.Files));
+    if (z.último == 0) z.mnuReanudar.Enabled = false;
+}
+
+std::vector<Form*> Juego::Ventanas() {
+    return {&z,      &presenta, &nivel,    &tanteo,  &nombre, &guardar, &reanudar,
+            &cuadro, &últimas,  &victoria, &diploma, &normas, &acerca};
+}
+
+std::optional<Valor> Juego::Campo(std::string_view form, std::string_view field) const {
+    if (form == "Zarpi") return ValorDeCampo(z, field);
+    if (form == "frmPuntos" && field == "f200") return tanteo.f200;
+    if (form == "frmFecha" && field == "FechaCua") return victoria.FechaCua;
+    if (form == "frmCastellano" && field == "Aleator") return castellano.Aleator;
+    if (form == "frmCastellano" && field == "Castel") return castellano.Castel;
+    if (form == "frmInglés" && field == "Alea") return inglés.Alea;
+    if (form == "frmInglés" && field == "Inglés") return inglés.Inglés;
+    if (form == "frmInglés" && field == "Español") return inglés.Español;
+    return std::nullopt;
+}
+
+}  // namespace juego

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "engine/Comodines.h"
+#include "engine/Letras.h"
+#include "engine/Partida.h"
+#include "engine/Reloj.h"
+#include "game/Campos.h"
+#include "screens/frmDiploma.h"
+#include "screens/frmFecha.h"
+#include "screens/frmNivel.h"
+#include "screens/frmPuntos.h"
+#include "shell/frmAcerca.h"
+#include "shell/frmNormas.h"
+#include "shell/frmPresenta.h"
+#include "stage/Empujador.h"
+#include "store/frmCuadro.h"
+#include "store/frmNombre.h"
+#include "store/frmReanudar.h"
+#include "store/frmÚltimas.h"
+
+namespace juego {
+
+/// The whole game put together on a platform: every part with what it needs, every element with its handler.
+class Juego {
+public:
+    /// The services must outlive the game.
+    explicit Juego(const Services& services);
+
+    /// Loads the main window, which brings up the presentation.
+    void Start();
+
+    /// All windows, the main one first.
+    [[nodiscard]] std::vector<Form*> Ventanas();
+    /// A field of a window, by their names; nothing if there is none.
+    [[nodiscard]] std::optional<Valor> Campo(std::string_view form, std::string_view field) const;
+
+private:
+    void Form_Load();
+    void ConectarVentana();
+    void ConectarMenús();
+    void Premiar();
+
+    Services s;
+    Zarpi z;
+    frmCastellano castellano;
+    frmInglés inglés;
+    ÍndicesPalabras índices{castellano.Aleator, inglés.Alea};
+
+    Música música{z, s.Media, s.Random, s.Clock};
+    Comentario comentario{z, s.Random, s.Clock};
+    AnotarPartida anotar{z, s.Files, s.Clock};
+    Secuencias secuencias{z, comentario};
+    Empujador empujador{z, s.Files, s.Media, comentario, secuencias, anotar};
+    Sorteo sorteo{z, castellano, inglés, s.Random, s.Clock, música};
+
+    frmNivel nivel{z, s.Forms};
+    frmPuntos tanteo{z, s.Forms, s.Media};
+    frmNombre nombre{z, s.Forms};
+    frmCuadro cuadro{z, s.Forms, s.Files, s.Printer};
+    frmÚltimas últimas{z, s.Forms, s.Files, s.Printer};
+    frmFecha victoria{z, s.Forms, s.Files, s.Media, s.Clock, música, [this] { Premiar(); }};
+    frmDiploma diploma{z, s.Forms, s.Printer, s.Media, victoria.FechaCua};
+
+    Final fin{z, s.Forms, empujador, anotar, victoria};
+    Partida partida{z, s.Forms, s.Media, s.Clock, sorteo, comentario, fin, {nivel, tanteo, nombre}};
+    Letras letras{z, s.Dialogs, empujador, secuencias, [this] { partida.SiguientePalabra(); }};
+    Comodines comodines{z, s.Media, letras};
+    Reloj reloj{z, s.Forms, s.Media, s.Clock, empujador, anotar};
+
+    frmGuardar guardar{z, s.Forms, s.Dialogs, s.Files, s.Clock, índices, [this] { fin.PartidaGuardada(); }};
+    frmReanudar reanudar;
+    frmPresenta presenta{z, s.Forms};
+    frmNormas normas{s.Forms};
+    frmAcerca acerca{z, s.Forms, s.Media, s.Web};
+};
+
+}  // namespace juego

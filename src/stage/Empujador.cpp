@@ -1,0 +1,109 @@
+#include "stage/Empujador.h"
+
+#include <array>
+
+#include "game/Modos.h"
+#include "sound/Sonido.h"
+#include "stage/Escena.h"
+#include "store/Guardadas.h"
+
+namespace juego {
+
+namespace {
+
+constexpr int kStep = 1140;
+constexpr int kEdgeStep = 250;  ///< the sixth miss stops short of the edge by this; the fall takes it back
+constexpr int kEdge = 6;
+constexpr int kFall = 7;
+constexpr int kLastFall = 4;
+constexpr int kTeeteringTop = 60;
+constexpr int kHeroTop = -60;
+
+/// The pose that each miss brings; 0 leaves the one before.
+constexpr std::array<int, 8> kPoseOfMiss = {0, 2, 3, 2, 3, 5, 0, 0};
+
+}  // namespace
+
+void Empujador::operator()() {
+    const bool ends = z.fTiempoAgotado || z.fGuardar || z.fVictoria;
+    z.fGuardar = false;
+    if (!ends) {
+        Fallar();
+        if (z.Fallo == kFall) Caer();
+    }
+    const bool over = ends || z.Fallo == kFall;
+    if (over && !Terminar()) return;
+    AnimarComodín();
+}
+
+void Empujador::Fallar() {
+    ++z.Fallo;
+    z.Label5.Caption = u"Mal.";
+    if (z.Fallo == kFall) {
+        for (Label* label : {&z.lblMensajeTiem, &z.lblTiempo, &z.Label8, &z.lblNombre}) label->Visible = false;
+    }
+    z.lblError(z.Fallo).Visible = true;
+    z.lblError(z.Fallo).Caption = z.Letra;
+    Avanzar(kStep);
+    if (const int pose = kPoseOfMiss.at(static_cast<std::size_t>(z.Fallo)); pose != 0) z.picZarpi.Picture = Pose(pose);
+    if (z.Fallo == kEdge - 1) z.picZarpi.Top = kTeeteringTop;
+    if (z.Fallo == kEdge) {
+        Avanzar(-kEdgeStep);
+        comentario.ComentarioAngustia();
+        z.lblComentAngus.Visible = true;
+        z.lblComentAngus.Caption = z.picZarpi.ToolTipText;
+        z.AngustiaZarpi1.Start();
+    }
+    if (z.Fallo == kFall) z.picZarpi.ToolTipText.clear();
+}
+
+void Empujador::Avanzar(int step) {
+    for (Integer* position : {&z.IzqZarpi, &z.IzqEmpujador1, &z.AnchoEmpujador2}) {
+        *position = static_cast<Integer>(*position + step);
+    }
+    ColocarEmpujador(z);
+}
+
+void Empujador::Caer() {
+    Avanzar(kEdgeStep);
+    Sonar(media, z, z.sonCaída, sonidos::Caída);
+    for (Label& box : z.lblComodín) {
+        box.ToolTipText.clear();
+        box.Visible = false;
+    }
+    z.Shape1.Visible = false;
+    OcultarTeclado(z);
+    ++z.Caídas;
+    z.Label5.Caption = (z.plural ? u"Habéis fallado. La palabra clave es " : u"Has fallado. La palabra clave es ") +
+                       z.PalabraMensaje + z.Traducción + u" Fin de juego.";
+    z.lblComentAngus.Visible = false;
+    z.CaídaZarpi1.Start();
+    z.picZarpi.Picture = Pose(6);
+    z.picZarpi.Top = kHeroTop;
+    anotar();
+}
+
+/// Closes the game and gives the menus back. False after the fourth fall, which keeps them closed for good.
+bool Empujador::Terminar() {
+    z.fFinPartida = true;
+    if (z.Caídas == kLastFall) {
+        secuencias.FinPorEnfado();
+        return false;
+    }
+    for (const Modo& modo : Modos) (z.*modo.Entrada).Enabled = true;
+    z.tmrTiempo.Stop();
+    z.mnuNuevo.Enabled = true;
+    for (const TiempoPalabra& tiempo : Tiempos) (z.*tiempo.Entrada).Enabled = true;
+    z.último = static_cast<Integer>(ContarGuardadas(z, files));
+    if (z.último != 0) z.mnuReanudar.Enabled = true;
+    z.mnuGuardar.Enabled = false;
+    return true;
+}
+
+void Empujador::AnimarComodín() {
+    if (z.Fallo != kEdge || z.comodines == 0 || z.fTiempoAgotado || z.fVictoria) return;
+    z.Label5.Caption = z.plural ? u"¡Usad un comodín!" : u"¡Usa un comodín!";
+    Sonar(media, z, z.sonComodín, sonidos::Comodín);
+}
+
+}  // namespace juego

@@ -1,0 +1,37 @@
+#include "store/AnotarPartida.h"
+
+#include "game/Modos.h"
+#include "store/AvisoError.h"
+
+namespace juego {
+
+namespace {
+constexpr int kFirstNoted = 6;
+constexpr int kWon = 31;
+}  // namespace
+
+void AnotarPartida::operator()() {
+    if (z.NúmPalabra < kFirstNoted) return;
+    z.FechaPartida = FormatDate(clock.Today());
+    z.TextoTiempo = TextoDeTiempo(z.Tiempo);
+    if (!Anotar()) MostrarErrorAlFrente(z);
+}
+
+bool AnotarPartida::Anotar() {
+    const auto count = LeerContador(files, ArchivoÚltimas);
+    if (!count) return false;
+    z.NúmPartidas = static_cast<Integer>(*count);
+    ArchivoRegistros<FilaÚltima> rows(files, ArchivoÚltimas);
+    if (!rows.AbrirHueco(1, z.NúmPartidas)) return false;
+    if (z.NúmPartidas < ArchivoÚltimas.Límite) ++z.NúmPartidas;
+    if (!EscribirContador(files, ArchivoÚltimas, z.NúmPartidas)) return false;
+    return rows.Escribir(1, {.Palabra = z.NúmPalabra == kWon ? u"FINAL" : SignedDecimal(z.NúmPalabra),
+                             .Nombre = z.Nombre,
+                             .puntos = SignedDecimal(z.puntos),
+                             .plenos = SignedDecimal(z.plenos),
+                             .Modo = z.Modo,
+                             .Tiempo = z.TextoTiempo,
+                             .Fecha = z.FechaPartida});
+}
+
+}  // namespace juego

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "game/Estilos.h"
+
+/// The geometry that the two lists of ten rows share. Each list grows by its rows.
+namespace juego::filas {
+
+constexpr int Alto = 3285;         ///< of a list without rows
+constexpr int TopeBotones = 2070;  ///< of the plates of its buttons; the buttons lie 60 below
+constexpr int AltoFila = 510;
+
+/// The heading of a column.
+inline LabelLook Cabecera(TextView caption) {
+    return Heading(caption, 9.75);
+}
+
+/// Place and look of the cell of row k in a column.
+inline std::pair<Place, LabelLook> Celda(int left, int width, int k) {
+    return {{left, 2040 + AltoFila * (k - 1), width, 375, Hidden},
+            ValueBox(u"", FontName::MSSansSerif, 12, true, White)};
+}
+
+}  // namespace juego::filas
