@@ -63,8 +63,10 @@ Control* Form::Find(std::string_view fullName) const {
 }
 
 void Form::ZOrder(Control& control) {
-    const auto it = std::ranges::find(controls_, &control);
-    std::rotate(controls_.begin(), it, it + 1);
+    const bool front = InFrontLayer(control.kind);
+    const auto sameLayer = [front](const Control* other) { return InFrontLayer(other->kind) == front; };
+    const auto place = std::ranges::find(controls_, &control);
+    std::rotate(std::ranges::find_if(controls_, sameLayer), place, place + 1);
 }
 
 void Form::ToDesign() {

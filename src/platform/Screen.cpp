@@ -69,12 +69,15 @@ void Screen::Run(const std::function<void()>& handler) {
     display_.Refresh();
 }
 
-Refusal Screen::Click(Control& control) {
+Refusal Screen::Trigger(Control& control) {
     const Refusal refusal = Reach(control);
-    if (refusal != Refusal::None) return refusal;
-    if (TabIndexOf(control) != 0) control.Owner.SetFocus(control);
-    Run(control.Click);
-    return Refusal::None;
+    if (refusal == Refusal::None) Run(control.Click);
+    return refusal;
+}
+
+Refusal Screen::Click(Control& control) {
+    Focus(control);
+    return Trigger(control);
 }
 
 Refusal Screen::Click(Form& form) {
@@ -106,7 +109,7 @@ Refusal Screen::Type(TextBox& box, TextView text) {
     Refusal refusal = Reach(box);
     if (refusal == Refusal::None && box.Locked) refusal = Refusal::Disabled;
     if (refusal != Refusal::None) return refusal;
-    if (TabIndexOf(box) != 0) box.Owner.SetFocus(box);
+    Focus(box);
     box.Text = Acceptable(box, text);
     display_.Refresh();
     return Refusal::None;
@@ -125,19 +128,19 @@ bool Screen::PressShortcut(Form& form, const Key& key) {
         return m->Shortcut.Code != KeyNone && m->Shortcut.Code == key.Code && m->Shortcut.Control == key.Control;
     });
     if (menu == menus.end()) return false;
-    Click(**menu);
+    Trigger(**menu);
     return true;
 }
 
 bool Screen::PressButton(Form& form, const Key& key) {
     Control* const focus = form.Focus();
     const bool onButton = focus != nullptr && focus->kind == Kind::CommandButton;
-    if ((key.Code == KeyEnter || key.Code == KeySpace) && onButton) return Click(*focus) == Refusal::None;
+    if ((key.Code == KeyEnter || key.Code == KeySpace) && onButton) return Trigger(*focus) == Refusal::None;
     for (Control* control : form.Controls()) {
         if (control->kind != Kind::CommandButton) continue;
         const auto& button = static_cast<const CommandButton&>(*control);
         const bool meant = (key.Code == KeyEnter && button.Default) || (key.Code == KeyEscape && button.Cancel);
-        if (meant && Click(*control) == Refusal::None) return true;
+        if (meant && Trigger(*control) == Refusal::None) return true;
     }
     return false;
 }

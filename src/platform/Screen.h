@@ -75,6 +75,7 @@ private:
     bool Contains(const std::vector<Form*>& forms, const Form& form) const;
     void Open(Form& form, bool modal);
     void Run(const std::function<void()>& handler);
+    Refusal Trigger(Control& control);
     bool PressShortcut(Form& form, const Key& key);
     bool PressButton(Form& form, const Key& key);
     void PressPreview(Form& form, const Key& key);

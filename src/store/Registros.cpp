@@ -84,6 +84,9 @@ std::string Encode(const Registro& record, const std::array<Campo<Registro>, N>&
 template <class Registro, std::size_t N>
 void Decode(std::string bytes, Registro& record, const std::array<Campo<Registro>, N>& fields) {
     bytes.resize(Registro::Largo, ' ');
+    // Holes of a damaged file are bytes that no text has.
+    std::ranges::replace_if(
+        bytes, [](char c) { return c >= 0 && c < ' '; }, ' ');
     const Text text = FromWindows1252(bytes);
     for (const Campo<Registro>& field : fields) {
         const TextView part = TextView(text).substr(field.Offset, field.Ancho);

@@ -10,7 +10,7 @@ namespace platform::desktop {
 
 namespace {
 
-constexpr int kWrap = Qt::TextWordWrap | Qt::TextWrapAnywhere | Qt::AlignTop;
+constexpr int kWrap = Qt::TextWordWrap | Qt::AlignTop;
 
 }  // namespace
 

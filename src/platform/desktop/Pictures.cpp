@@ -35,11 +35,11 @@ Source SourceOf(const PictureLook& look) {
     return {Existing(file), Existing(file.left(file.lastIndexOf('.')) + "@2x.png")};
 }
 
-/// Reads a picture into `size` logical pixels, or into its own size at `factor` if `size` is null.
+/// Reads a picture into `size` logical pixels, or into its own size at `factor` if `size` is not valid.
 QPixmap Read(const Source& source, QSize size, double factor) {
-    const QSize own = QImageReader(source.single).size();
+    const QSize own = source.single.isEmpty() ? QSize() : QImageReader(source.single).size();
     if (!own.isValid()) return {};
-    if (size.isNull()) size = (QSizeF(own) * factor).toSize();
+    if (!size.isValid()) size = (QSizeF(own) * factor).toSize();
     const double ratio = qGuiApp->devicePixelRatio();
     const QSize target = (QSizeF(size) * ratio).toSize();
     const QString key = QStringLiteral("%1 %2 %3").arg(source.single).arg(target.width()).arg(target.height());

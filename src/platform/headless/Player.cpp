@@ -127,11 +127,16 @@ bool Player::Run(std::istream& script) {
             if (!RunNext()) return good_;
         } catch (const Ended&) {
             ended_ = true;
+            keys_.clear();
         }
     }
 }
 
 bool Player::RunNext() {
+    if (!keys_.empty()) {
+        PressNextKey();
+        return true;
+    }
     if (next_ >= lines_.size()) return false;
     std::string_view line = lines_[next_++];
     if (line.ends_with('\r')) line.remove_suffix(1);
@@ -207,7 +212,13 @@ void Player::PressKey(std::string_view name) {
 }
 
 void Player::PressKeys(std::string_view text) {
-    for (const char16_t character : FromUtf8(text)) PressKey(ToUtf8(Text(1, character)));
+    keys_ = FromUtf8(text);
+}
+
+void Player::PressNextKey() {
+    const Text character = keys_.substr(0, 1);
+    keys_.erase(0, 1);
+    PressKey(ToUtf8(character));
 }
 
 void Player::Type(std::string_view rest) {

@@ -46,6 +46,7 @@ private:
 
     bool RunNext();
     void Execute(std::string_view line);
+    void PressNextKey();
 
     // The commands; each gets the rest of its line.
     void SetDate(std::string_view rest);
@@ -95,6 +96,7 @@ private:
     std::ostream& out_;
     std::vector<std::string> lines_;
     std::size_t next_ = 0;
+    Text keys_;  ///< characters of a `keys` command still to be pressed, each a move of its own
     bool started_ = false;
     bool ended_ = false;
     bool good_ = true;

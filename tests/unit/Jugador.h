@@ -1,0 +1,75 @@
+#pragma once
+
+#include <memory>
+#include <random>
+#include <string>
+
+#include "platform/headless/Headless.h"
+#include "shell/Juego.h"
+
+/// Players for tests: each plays the whole program on the platform in memory, in the current folder.
+class Jugador {
+public:
+    virtual ~Jugador() = default;
+
+protected:
+    /// Starts the program anew; the files stay.
+    void Restart();
+    /// Makes moves until `moves` of them are made, or a fault is found, or the program ends.
+    void Run();
+    virtual void Move() = 0;
+
+    const juego::Zarpi& Game() const { return static_cast<const juego::Zarpi&>(*windows_.front()); }
+    platform::Form& Front() const { return *headless_->screen.Front(); }
+    /// A letter that uncovers something now; 0 if the word needs none.
+    char16_t GoodLetter() const;
+    void Press(char16_t character) { PressKey(platform::KeyOf(character)); }
+    void PressKey(const platform::Key& key);
+
+    std::unique_ptr<platform::headless::Headless> headless_;
+    std::unique_ptr<juego::Juego> juego_;
+    std::vector<platform::Form*> windows_;
+    int moves_ = 0;
+    std::string fault_;
+
+private:
+    bool OneMove();
+    /// What must hold after each event; empty if it does.
+    std::string Fault() const;
+};
+
+/// Presses, clicks and closes whatever there is, more often than not something that leads on.
+class JugadorAlAzar : public Jugador {
+public:
+    explicit JugadorAlAzar(unsigned seed) : random_(seed) {}
+
+    /// Plays; the fault found, or nothing.
+    std::string Play(int moves);
+    int Games() const { return games_; }
+
+private:
+    void Move() override;
+    void ClickAnything();
+    void TypeAnything();
+    platform::Control* AnyControl(platform::Form& form);
+    int Pick(int n) { return static_cast<int>(random_() % static_cast<unsigned>(n)); }
+
+    std::mt19937 random_;
+    int games_ = 0;
+    bool inPlay_ = false;
+};
+
+/// Knows every word, and wins.
+class JugadorQueSabe : public Jugador {
+public:
+    explicit JugadorQueSabe(int mode) : mode_(mode) {}
+
+    /// Plays a game to its end; what went wrong, or nothing.
+    std::string Win();
+
+private:
+    void Move() override;
+
+    int mode_;
+    bool started_ = false;
+};

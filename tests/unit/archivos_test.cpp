@@ -1,0 +1,133 @@
+// Counters and records, byte for byte, and whatever else may lie in their files.
+
+#include <gtest/gtest.h>
+#include <optional>
+
+#include "Carpeta.h"
+#include "platform/headless/FolderFiles.h"
+#include "store/Registros.h"
+
+namespace juego {
+namespace {
+
+using platform::headless::FolderFiles;
+
+TEST(Contador, ReadsWhateverStandsInTheFile) {
+    const Carpeta folder;
+    FolderFiles files;
+    struct Case {
+        std::string content;
+        std::optional<int> games;  ///< saved games, bounded by 16 bits
+        std::optional<int> rows;   ///< a list of ten
+    };
+    for (const auto& [content, games, rows] : std::initializer_list<Case>{{" 0 \r\n", 0, 0},
+                                                                          {" 12 \r\n", 12, 10},
+                                                                          {"7", 7, 7},
+                                                                          {"  3,9", 3, 3},
+                                                                          {"", std::nullopt, std::nullopt},
+                                                                          {"\r\n", 0, 0},
+                                                                          {"   ", 0, 0},
+                                                                          {"x5", 0, 0},
+                                                                          {"-4", 0, 0},
+                                                                          {"32767", 32767, 10},
+                                                                          {"32768", std::nullopt, 10},
+                                                                          {"99999999999999999999", std::nullopt, 10},
+                                                                          {std::string(3, '\0'), 0, 0}}) {
+        ASSERT_TRUE(files.Replace("Ultimo.dat", content));
+        ASSERT_TRUE(files.Replace("UltPart.dat", content));
+        EXPECT_EQ(LeerContador(files, ArchivoGuardadas), games) << content;
+        EXPECT_EQ(LeerContador(files, ArchivoÚltimas), rows) << content;
+    }
+    std::filesystem::remove("Ultimo.dat");
+    EXPECT_EQ(LeerContador(files, ArchivoGuardadas), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists("Ultimo.dat"));
+    ASSERT_TRUE(EscribirContador(files, ArchivoGuardadas, 12));
+    EXPECT_EQ(files.Read("Ultimo.dat"), " 12 \r\n");
+}
+
+TEST(Registros, HaveTheirBytes) {
+    const FilaHonor row{
+        .puntos = u" 312", .Nombre = u"Ana y Luis", .plenos = u" 14", .Tiempo = u"2 minutos", .Fecha = u"7-3-2004"};
+    EXPECT_EQ(Codificar(row), " 312Ana y Luis     142 minutos 7-3-2004   ");
+    const FilaÚltima last{.Palabra = u"FINAL",
+                          .Nombre = u"Ana y Luis",
+                          .puntos = u" 312",
+                          .plenos = u" 14",
+                          .Modo = 3,
+                          .Tiempo = u"2 minutos",
+                          .Fecha = u"7-3-2004"};
+    EXPECT_EQ(Codificar(last), "FINAL  Ana y Luis     312 14 32 minutos   7-3-2004       ");
+    PartidaGuardada game{.NúmPalabra = 30,
+                         .Modo = 5,
+                         .Alter = 2,
+                         .Tiempo = 60,
+                         .puntos = 435,
+                         .plenos = 29,
+                         .comodines = 10,
+                         .Nombre = u"Íñigo €",
+                         .Fecha = u"31-12-2026",
+                         .Contraseña = u"ñ",
+                         .Aleator = 4000,
+                         .Alea = 7};
+    EXPECT_EQ(Codificar(game),
+              " 30 5 2 60 435 2910\xCD\xF1igo \x80       31-12-2026 \xF1         "
+              " 4000 7    ");
+    PartidaGuardada back;
+    Decodificar(Codificar(game), back);
+    EXPECT_EQ(back.comodines, 10);
+    EXPECT_EQ(back.Alea, 7);
+    EXPECT_EQ(back.Nombre, u"Íñigo €       ");
+    game.comodines = 9;
+    EXPECT_EQ(Codificar(game).substr(14, 5), " 29 9");
+}
+
+TEST(Registros, AcceptAnyBytes) {
+    PartidaGuardada game;
+    Decodificar("", game);
+    EXPECT_EQ(game.NúmPalabra, 0);
+    EXPECT_EQ(Trim(game.Nombre), u"");
+    Decodificar(std::string(200, '\xFF'), game);
+    EXPECT_EQ(game.Tiempo, 0);
+    Decodificar(std::string(65, '9'), game);
+    EXPECT_EQ(game.Aleator, 32767);
+    FilaHonor row;
+    Decodificar(std::string(42, '\0'), row);
+    EXPECT_EQ(Trim(row.Nombre), u"");
+}
+
+FilaHonor RowWith(const Text& points) {
+    FilaHonor row;
+    row.puntos = points;
+    return row;
+}
+
+TEST(ArchivoRegistros, OpensAndClosesPlaces) {
+    const Carpeta folder;
+    FolderFiles files;
+    ArchivoRegistros<FilaHonor> rows(files, ArchivosHonor[0]);
+    for (int k = 1; k <= 3; ++k) ASSERT_TRUE(rows.Escribir(k, RowWith(SignedDecimal(k))));
+    ASSERT_TRUE(rows.AbrirHueco(2, 3));
+    ASSERT_TRUE(rows.Escribir(2, RowWith(u" 9")));
+    for (const auto& [k, points] : {std::pair(1, 1), {2, 9}, {3, 2}, {4, 3}, {5, 0}}) {
+        EXPECT_EQ(NúmeroDeCampo(rows.Leer(k)->puntos), points) << k;
+    }
+    ASSERT_TRUE(rows.CerrarHueco(1, 4));
+    EXPECT_EQ(NúmeroDeCampo(rows.Leer(1)->puntos), 9);
+    EXPECT_EQ(files.Read("CeI.rnd")->size(), 4 * FilaHonor::Largo);
+}
+
+TEST(Texto, MapsEveryCodeOfThePageBothWays) {
+    for (int code = 0; code < 256; ++code) {
+        const char16_t c = platform::FromWindows1252(static_cast<unsigned char>(code));
+        EXPECT_EQ(platform::ToWindows1252(c), static_cast<unsigned char>(code)) << code;
+        EXPECT_EQ(platform::FromUtf8(platform::ToUtf8(Text(1, c))), Text(1, c)) << code;
+    }
+    EXPECT_EQ(platform::ToWindows1252(u"aťñ…"), "a?\xF1\x85");
+    EXPECT_EQ(platform::UpperCase(u"josé, niño ÿ÷ß"), u"JOSÉ, NIÑO Ÿ÷ß");
+    for (const char* bad : {"\xC3", "\xFF", "\xE2\x82", "\xF0\x9F\x98\x80", "\xC0\x80"}) {
+        EXPECT_NE(platform::FromUtf8(bad).find(u'\xFFFD'), Text::npos) << bad;
+    }
+}
+
+}  // namespace
+}  // namespace juego

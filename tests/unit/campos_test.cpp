@@ -1,0 +1,78 @@
+// Fields by name, and the tables that everything else rests on.
+
+#include "game/Campos.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "game/Modos.h"
+#include "game/Teclas.h"
+#include "words/Tablas.h"
+
+namespace juego {
+namespace {
+
+TEST(Campos, AreFoundByTheirNames) {
+    Zarpi z;
+    z.PalabrasUsadas[3] = u"SÁBANA";
+    z.HoraPalabra = 86399;
+    EXPECT_EQ(ValorDeCampo(z, "PalabrasUsadas(3)"), Valor(Text(u"SÁBANA")));
+    EXPECT_EQ(ValorDeCampo(z, "HoraPalabra"), Valor(86399));
+    EXPECT_EQ(ValorDeCampo(z, "fFinPartida"), Valor(true));
+    for (const char* none : {"Nada", "PalabrasUsadas", "PalabrasUsadas(31)", "PalabrasUsadas(x)", "Fallo(1)", ""}) {
+        EXPECT_EQ(ValorDeCampo(z, none), std::nullopt) << none;
+    }
+}
+
+TEST(Teclas, HaveEveryLetterOnce) {
+    std::set<char16_t> letters;
+    for (int i = 1; i <= NúmTeclas; ++i) {
+        EXPECT_EQ(ÍndiceDeLetra(TeclaDeÍndice(i).Letra), i);
+        letters.insert(TeclaDeÍndice(i).Letra);
+    }
+    EXPECT_EQ(letters.size(), 27U);
+    EXPECT_EQ(ÍndiceDeLetra(u'Á'), 0);
+}
+
+TEST(Niveles, FollowTheWordNumber) {
+    struct Case {
+        int word;
+        bool ten;
+        int level;
+        LetrasDadas given;
+        bool first;
+    };
+    for (const auto& c : {Case{1, false, 1, LetrasDadas::PrimeraYÚltima, true},
+                          {5, false, 1, LetrasDadas::PrimeraYÚltima, false},
+                          {6, false, 2, LetrasDadas::Primera, true},
+                          {15, false, 3, LetrasDadas::Ninguna, false},
+                          {16, false, 4, LetrasDadas::PrimeraYÚltima, true},
+                          {30, false, 6, LetrasDadas::Ninguna, false},
+                          {10, true, 1, LetrasDadas::PrimeraYÚltima, false},
+                          {11, true, 2, LetrasDadas::Primera, true},
+                          {30, true, 3, LetrasDadas::Ninguna, false}}) {
+        const Nivel level = NivelDePalabra(c.word, c.ten);
+        EXPECT_EQ(level.Número, c.level) << c.word;
+        EXPECT_EQ(level.Dadas, c.given) << c.word;
+        EXPECT_EQ(level.EsPrimera, c.first) << c.word;
+    }
+}
+
+TEST(Tablas, HoldTheirWordsAtTheirPlaces) {
+    EXPECT_EQ(PalabraCastellana(1), u"PANADERO");
+    EXPECT_EQ(PalabraCastellana(2482), u"SÁBANA");
+    EXPECT_EQ(PalabraCastellana(4000), u"FALSILLA");
+    EXPECT_EQ(PalabraInglesa(1), u"AIRPORT");
+    EXPECT_EQ(TraducciónDeInglesa(1), u"Aeropuerto");
+    EXPECT_EQ(TraducciónDeInglesa(12), u"Diseño, dibujo, (to) diseñar, dibujar");
+    for (const int none : {0, -1, 4001, 32767}) EXPECT_EQ(PalabraInglesa(none), u"") << none;
+    std::set<Text> both;
+    for (int i = 1; i <= NúmEntradas; ++i) {
+        both.insert(PalabraCastellana(i));
+        both.insert(PalabraInglesa(i));
+    }
+    EXPECT_EQ(both.size(), 8000U - 86U);
+}
+
+}  // namespace
+}  // namespace juego

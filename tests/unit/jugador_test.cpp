@@ -1,0 +1,117 @@
+// The script player itself: its answers and its exit status are a contract.
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "Carpeta.h"
+#include "platform/headless/Player.h"
+#include "shell/Juego.h"
+
+namespace {
+
+struct Outcome {
+    bool good;
+    std::string answers;
+};
+
+/// Plays a script; a script that cannot be read throws.
+Outcome Play(const std::string& script) {
+    const Carpeta folder;
+    platform::headless::Headless headless;
+    juego::Juego juego(headless.Services());
+    std::ostringstream out;
+    platform::headless::Player player(
+        headless,
+        {.forms = juego.Ventanas(),
+         .start = [&juego] { juego.Start(); },
+         .field = [](std::string_view, std::string_view) { return std::optional<platform::headless::Value>(); }},
+        out);
+    std::istringstream in(script);
+    const bool good = player.Run(in);
+    return {good, out.str()};
+}
+
+TEST(Player, Answers) {
+    const auto [good, answers] = Play(R"(# a comment, and an empty line
+
+click mnuNuevo
+start
+show forms
+show focus
+key a
+show Label5.Caption
+show lblTecla(1).FontSize
+show Zarpi.Label5.Visible
+show Zarpi.Height
+show tmrTiempo.Interval
+show mnuNuevo.Enabled
+show file Ultimo.dat
+show file Nada.dat
+click cmdMostrar
+click lblTecla(1)
+click frmNivel.cmdAceptar
+click mnuAcerca
+click mnuNuevo
+show focus
+show frmAcerca.Label2.Caption
+forget log
+click Label9
+show log
+show log
+key Esc
+key Ctrl+S
+key a
+click Zarpi
+show forms
+show log
+)");
+    EXPECT_TRUE(good);
+    EXPECT_EQ(answers, R"(refused mnuNuevo: closed
+forms = frmPresenta
+focus = none
+Label5.Caption = ""
+lblTecla(1).FontSize = 21.75
+Zarpi.Label5.Visible = True
+Zarpi.Height = 8220
+tmrTiempo.Interval = 100
+mnuNuevo.Enabled = True
+file Ultimo.dat = 20 30 20 0D 0A
+file Nada.dat = missing
+refused cmdMostrar: disabled
+refused lblTecla(1): hidden
+refused frmNivel.cmdAceptar: closed
+refused mnuNuevo: blocked
+focus = frmAcerca.cmdAceptar
+frmAcerca.Label2.Caption = " CREADO Y   PROGRAMADO POR"
+sound sonTeclado Open Teclado.wav
+sound sonTeclado Play
+sound sonTeclado Prev
+refused key a: closed
+refused Zarpi: closed
+refused show forms: closed
+end
+)");
+}
+
+TEST(Player, TellsFailedExpectationsAndGoesOn) {
+    const auto [good, answers] = Play(
+        "start\nexpect forms Zarpi\nexpect frmPresenta.Caption \"x\"\nexpect log beep\nexpect no log end\nexpect size "
+        "Ultimo.dat 5\nexpect files UltCas.dat UltCeI.dat UltCoI.dat UltIng.dat UltIyC.dat UltPart.dat Ultimo.dat\n");
+    EXPECT_FALSE(good);
+    EXPECT_EQ(answers,
+              "line 2: expected forms = Zarpi, found frmPresenta\n"
+              "line 3: expected frmPresenta.Caption = \"x\", found \"Juego de Zarpi (pulsa una tecla)\"\n"
+              "line 4: expected log beep, found it is not there\n");
+}
+
+TEST(Player, RefusesScriptsThatNameWhatIsNot) {
+    for (const char* script :
+         {"jump", "start\nclick Nada", "start\nshow Label5.Nada", "start\nshow Nada.Caption", "key Ctrl+ñ", "wait x",
+          "date 31-2-2004", "time 10:00", "start\nclick lblTecla(28)", "draw 1 in 3", "write A.dat GG",
+          "expect refused key a", "start\nkey a\ntype Label5 \"x\"", "start\nkey a\nselect txtNombre 1",
+          "printer maybe", "forget it"}) {
+        EXPECT_THROW(Play(script), platform::headless::ScriptError) << script;
+    }
+}
+
+}  // namespace
