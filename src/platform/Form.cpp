@@ -75,7 +75,8 @@ void Form::ToDesign() {
     for (Control* control : controls_) control->ToDesign();
     for (Menu* menu : menus_) menu->ToDesign();
     for (Timer* timer : timers_) timer->ToDesign();
-    std::ranges::stable_partition(controls_, [](const Control* control) { return InFrontLayer(control->kind); });
+    std::stable_partition(controls_.begin(), controls_.end(),
+                          [](const Control* control) { return InFrontLayer(control->kind); });
     focus_ = FirstFocus();
 }
 

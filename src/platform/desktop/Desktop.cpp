@@ -17,11 +17,24 @@
 #include "platform/desktop/SystemServices.h"
 #include "platform/desktop/WindowDisplay.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace platform::desktop {
 
 namespace {
 
 constexpr double kTextSize = 9;  // points, of menus and messages
+
+/// Keeps pictures out of the heap, where the place of a large one that is gone would stay taken.
+void ReturnLargeMemory() {
+#ifdef __GLIBC__
+    constexpr int kLarge = 64 * 1024;
+    mallopt(M_MMAP_THRESHOLD, kLarge);
+    mallopt(M_TRIM_THRESHOLD, kLarge);
+#endif
+}
 
 std::uint64_t Seed() {
     std::random_device device;
@@ -116,6 +129,7 @@ int Desktop::Parts::Run() {
 }
 
 Desktop::Desktop(int& argc, char** argv) {
+    ReturnLargeMemory();
     QApplication::setStyle("fusion");
     parts_ = std::make_unique<Parts>(argc, argv);
 }

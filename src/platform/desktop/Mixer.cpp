@@ -1,8 +1,12 @@
 #include "platform/desktop/Mixer.h"
 
 #include <QFile>
+#include <QTemporaryFile>
+#include <algorithm>
 #include <array>
 
+#include "platform/desktop/MidiPrograms.h"
+#include "platform/desktop/SoundFont.h"
 #include "platform/desktop/Strings.h"
 
 namespace platform::desktop {
@@ -27,6 +31,12 @@ constexpr std::array<const char*, 8> kSoundFonts = {
 };
 
 bool IsMusic(const std::string& file) { return file.ends_with(".mid"); }
+
+/// Empty if there is none.
+QString FindSoundFont() {
+    const auto* const found = std::ranges::find_if(kSoundFonts, [](const char* path) { return QFile::exists(path); });
+    return found == kSoundFonts.end() ? QString() : QString(*found);
+}
 
 /// The whole file; empty if it cannot be read.
 QByteArray Content(const std::string& name) {
@@ -67,28 +77,31 @@ bool Mixer::Open() {
     if (!loaded_) loaded_ = library_.Load();
     if (!loaded_ || library_.OpenAudio(kRate, AUDIO_S16SYS, kStereo, kSamples) != 0) return false;
     library_.AllocateChannels(0);
-    SetSoundFont();
     nextTry_ = {};
     open_ = true;
     return true;
 }
 
-void Mixer::SetSoundFont() {
-    for (const char* path : kSoundFonts) {
-        if (!QFile::exists(path)) continue;
-        library_.SetSoundFonts(path);
-        return;
-    }
-}
-
 void Mixer::PlayMusic(const std::string& channel, const std::string& file) {
     StopMusic();
     musicBytes_ = Content(file);
-    if (musicBytes_.isEmpty()) return;
-    SDL_RWops* const stream = library_.FromMemory(musicBytes_.constData(), static_cast<int>(musicBytes_.size()));
-    music_ = library_.LoadMusic(stream, MUS_MID, SDL_TRUE);
     musicChannel_ = channel;
+    if (!musicBytes_.isEmpty()) music_ = LoadMusic(musicBytes_);
     if (music_ != nullptr) library_.PlayMusic(music_, 1);
+}
+
+/// The mixer reads SoundFonts by name alone, and at once: the instruments of this piece stand in a file for that long.
+Mix_Music* Mixer::LoadMusic(const QByteArray& midi) {
+    QFile font(FindSoundFont());
+    if (!font.open(QIODevice::ReadOnly)) return nullptr;
+    const uchar* const bytes = font.map(0, font.size());
+    QTemporaryFile part;
+    if (bytes != nullptr && part.open()) part.write(CutSoundFont({bytes, font.size()}, ProgramsOf(midi)));
+    const bool isCut = part.size() > 0 && part.flush();
+    library_.SetSoundFonts((isCut ? part.fileName() : font.fileName()).toUtf8().constData());
+    font.close();
+    SDL_RWops* const stream = library_.FromMemory(midi.constData(), static_cast<int>(midi.size()));
+    return library_.LoadMusic(stream, MUS_MID, SDL_TRUE);
 }
 
 void Mixer::PlaySound(const std::string& channel, const std::string& file) {
@@ -140,6 +153,7 @@ void Mixer::Close() {
     }
     sounds_.clear();
     library_.CloseAudio();
+    library_.QuitSubSystem(SDL_INIT_AUDIO);  // with it goes the thread that looks for new devices
     open_ = false;
 }
 

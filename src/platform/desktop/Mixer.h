@@ -42,7 +42,7 @@ private:
     void PlaySound(const std::string& channel, const std::string& file);
     void Stop(const std::string& channel);
     void StopMusic();
-    void SetSoundFont();
+    Mix_Music* LoadMusic(const QByteArray& midi);
 
     MixerLibrary library_;
     bool loaded_ = false;

@@ -38,7 +38,7 @@ bool MixerLibrary::Load() {
            Resolve(mixer_, "Mix_Playing", Playing) && Resolve(mixer_, "Mix_LoadMUSType_RW", LoadMusic) &&
            Resolve(mixer_, "Mix_FreeMusic", FreeMusic) && Resolve(mixer_, "Mix_PlayMusic", PlayMusic) &&
            Resolve(mixer_, "Mix_HaltMusic", HaltMusic) && Resolve(mixer_, "Mix_PlayingMusic", PlayingMusic) &&
-           Resolve(sdl_, "SDL_RWFromConstMem", FromMemory);
+           Resolve(sdl_, "SDL_RWFromConstMem", FromMemory) && Resolve(sdl_, "SDL_QuitSubSystem", QuitSubSystem);
 }
 
 }  // namespace platform::desktop

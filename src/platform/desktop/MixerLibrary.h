@@ -1,5 +1,6 @@
 #pragma once
 
+#include <SDL.h>
 #include <SDL_mixer.h>
 
 #include <QLibrary>
@@ -28,6 +29,7 @@ public:
     decltype(&Mix_HaltMusic) HaltMusic = nullptr;
     decltype(&Mix_PlayingMusic) PlayingMusic = nullptr;
     decltype(&SDL_RWFromConstMem) FromMemory = nullptr;
+    decltype(&SDL_QuitSubSystem) QuitSubSystem = nullptr;
 
 private:
     QLibrary mixer_;

@@ -16,7 +16,7 @@ public:
     BoxValidator(const TextBox& box, QObject* owner) : QValidator(owner), box_(box) {}
 
     State validate(QString& input, int& cursor) const override {
-        input.replace(QChar::ParagraphSeparator, ' ').replace(QChar::LineSeparator, ' ');
+        input.replace('\n', ' ');
         const QString before = Known(input.left(cursor));
         input = before + Known(input.mid(cursor));
         const qsizetype excess = box_.MaxLength == 0 ? 0 : std::max<qsizetype>(0, input.size() - box_.MaxLength);

@@ -1,0 +1,90 @@
+#include "platform/desktop/MidiPrograms.h"
+
+#include <QtEndian>
+#include <algorithm>
+#include <array>
+
+namespace platform::desktop {
+
+namespace {
+
+constexpr int kChannels = 16;
+constexpr int kDrumChannel = 9;
+
+/// Reads the events of one track.
+class Track {
+public:
+    explicit Track(QByteArrayView bytes) : bytes_(bytes) {}
+
+    /// Tells `onProgram(channel, program)` and `onNote(channel)`.
+    template <class OnProgram, class OnNote>
+    void Read(OnProgram onProgram, OnNote onNote) {
+        while (at_ < bytes_.size()) {
+            Length();  // the time
+            if ((Peek() & 0x80) != 0) status_ = Byte();
+            const int channel = status_ & 0x0F;
+            switch (status_ & 0xF0) {
+                case 0xC0: onProgram(channel, Byte() & 0x7F); break;
+                case 0xD0: Byte(); break;
+                case 0xF0: SkipLong(); break;
+                case 0x90: onNote(channel); [[fallthrough]];
+                default: at_ += 2;
+            }
+        }
+    }
+
+private:
+    [[nodiscard]] int Peek() const { return at_ < bytes_.size() ? static_cast<unsigned char>(bytes_[at_]) : 0; }
+    int Byte() {
+        const int byte = Peek();
+        ++at_;
+        return byte;
+    }
+    /// A number of seven bits a byte.
+    qsizetype Length() {
+        qsizetype length = 0;
+        int byte = 0;
+        do {
+            byte = Byte();
+            length = ((length << 7) | (byte & 0x7F)) & 0x0FFFFFFF;
+        } while ((byte & 0x80) != 0);
+        return length;
+    }
+    /// An event that tells its own length: texts, tempo, system messages.
+    void SkipLong() {
+        constexpr int kMeta = 0xFF;
+        if (status_ == kMeta) Byte();
+        const qsizetype length = Length();
+        at_ += length;
+    }
+
+    QByteArrayView bytes_;
+    qsizetype at_ = 0;
+    int status_ = 0;
+};
+
+}  // namespace
+
+MidiPrograms ProgramsOf(QByteArrayView midi) {
+    constexpr qsizetype kHeader = 8;  // four letters and a length, before every block
+    std::array<std::set<int>, kChannels> asked;
+    std::set<int> sounding;
+    while (midi.size() > kHeader) {
+        const auto length = std::min<qsizetype>(qFromBigEndian<quint32>(midi.data() + 4), midi.size() - kHeader);
+        if (midi.first(4) == "MTrk") {
+            Track(midi.sliced(kHeader, length))
+                .Read([&asked](int channel, int program) { asked.at(static_cast<std::size_t>(channel)).insert(program); },
+                      [&sounding](int channel) { sounding.insert(channel); });
+        }
+        midi = midi.sliced(kHeader + length);
+    }
+    MidiPrograms programs;
+    for (const int channel : sounding) {
+        std::set<int>& wanted = asked.at(static_cast<std::size_t>(channel));
+        if (wanted.empty()) wanted.insert(0);
+        (channel == kDrumChannel ? programs.drums : programs.melodic).merge(wanted);
+    }
+    return programs;
+}
+
+}  // namespace platform::desktop

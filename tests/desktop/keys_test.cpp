@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <QInputMethodEvent>
+
+#include "Rig.h"
+#include "platform/desktop/Keys.h"
+
+namespace platform::desktop {
+namespace {
+
+constexpr Qt::KeyboardModifiers kAltGr = Qt::ControlModifier | Qt::AltModifier;
+
+struct PressRow {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    const char* text;
+    std::optional<Key> read;
+};
+
+TEST(Keys, EveryPressIsOneKey) {
+    const std::vector<PressRow> rows = {
+        {Qt::Key_A, Qt::NoModifier, "a", Key{'A', u'a'}},
+        {Qt::Key_Ntilde, Qt::ShiftModifier, "Ñ", Key{0xD1, u'Ñ'}},
+        {Qt::Key_J, Qt::AltModifier, "j", Key{'J', 0}},
+        {Qt::Key_A, Qt::MetaModifier, "a", Key{'A', 0}},
+        {Qt::Key_N, Qt::ControlModifier, "\x0E", ControlKey('N')},
+        {Qt::Key_N, Qt::ControlModifier, "", ControlKey('N')},
+        {Qt::Key_2, kAltGr, "@", Key{'2', u'@'}},
+        {Qt::Key_N, kAltGr, "\x0E", Key{'N', 0}},
+        {Qt::Key_Percent, Qt::NoModifier, "%", Key{KeyNone, u'%'}},  // not the code of an arrow
+        {Qt::Key_Left, Qt::NoModifier, "", PlainKey(KeyLeft)},
+        {Qt::Key_F5, Qt::NoModifier, "", PlainKey(KeyF5)},
+        {Qt::Key_Enter, Qt::KeypadModifier, "\r", Key{KeyEnter, u'\r'}},
+        {Qt::Key_Delete, Qt::NoModifier, "\x7F", Key{KeyNone, 0}},
+        {Qt::Key_Shift, Qt::ShiftModifier, "", Key{KeyNone, 0}},
+    };
+    for (const PressRow& row : rows) {
+        KeyReader reader;
+        const QKeyEvent press(QEvent::KeyPress, row.key, row.modifiers, QString::fromUtf8(row.text));
+        EXPECT_EQ(reader.Read(press), row.read) << row.key << " " << row.text;
+    }
+}
+
+TEST(Keys, AccentWaitsForItsLetter) {
+    struct Row {
+        int accent;
+        const char* letter;
+        std::optional<Key> read;
+    };
+    const std::vector<Row> rows = {{Qt::Key_Dead_Acute, "a", Key{0xC1, u'á'}},
+                                   {Qt::Key_Dead_Diaeresis, "U", Key{0xDC, u'Ü'}},
+                                   {Qt::Key_Dead_Tilde, "n", Key{0xD1, u'ñ'}},
+                                   {Qt::Key_Dead_Acute, "b", std::nullopt},
+                                   {Qt::Key_Dead_Acute, "\x1B", Key{KeyEscape, 27}}};
+    for (const Row& row : rows) {
+        KeyReader reader;
+        const int code = row.letter[0] == 27 ? int{Qt::Key_Escape} : QChar(row.letter[0]).toUpper().unicode();
+        EXPECT_EQ(reader.Read(QKeyEvent(QEvent::KeyPress, row.accent, Qt::NoModifier, "")), std::nullopt);
+        EXPECT_EQ(reader.Read(QKeyEvent(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier, "")), (Key{}));
+        EXPECT_EQ(reader.Read(QKeyEvent(QEvent::KeyPress, code, Qt::NoModifier, row.letter)), row.read) << row.letter;
+        EXPECT_EQ(reader.Read(QKeyEvent(QEvent::KeyPress, Qt::Key_E, Qt::NoModifier, "e")), (Key{'E', u'e'}));
+    }
+}
+
+/// What a form without a text box gets to read, by way of its window.
+struct KeysInWindow : testing::Test {
+    KeysInWindow() {
+        form.txtName.Visible = false;
+        rig.screen.Show(form);
+        form.txtName.Visible = form.lstGames.Visible = false;
+        form.SetFocus(form.lblFront);
+        rig.display.Refresh();
+    }
+    QWidget& Client() { return rig.Widget(form); }
+
+    Rig rig;
+    Sample form;
+};
+
+TEST_F(KeysInWindow, AnAccentedVowelIsOneCharacter) {
+    for (const auto& [key, text] : {std::pair(Qt::Key_Dead_Acute, ""), std::pair(Qt::Key_A, "a")}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(&Client(), &press);
+    }
+    QInputMethodEvent commit;
+    commit.setCommitString("áñ");
+    QCoreApplication::sendEvent(&Client(), &commit);
+    EXPECT_EQ(form.Typed, (std::vector<int>{0xE1, 0xE1, 0xF1}));
+    EXPECT_TRUE(Client().testAttribute(Qt::WA_InputMethodEnabled));
+}
+
+TEST_F(KeysInWindow, MenusAndShortcutsAreNoLetters) {
+    int started = 0;
+    form.mnuNew.Click = form.mnuSave.Click = [&started] { ++started; };
+    QTest::keyClick(&Client(), Qt::Key_X, Qt::AltModifier);
+    QTest::keyClick(&Client(), Qt::Key_N, Qt::ControlModifier);
+    QTest::keyClick(&Client(), Qt::Key_G, Qt::ControlModifier);  // a disabled entry
+    EXPECT_EQ(started, 1);
+    EXPECT_TRUE(form.Typed.empty());
+}
+
+}  // namespace
+}  // namespace platform::desktop
