@@ -92,7 +92,7 @@ Refusal Screen::Close(Form& form) {
     return refusal;
 }
 
-void Screen::Focus(Control& control) {
+void Screen::Focus(Control& control) const {
     if (Reach(control) == Refusal::None && TabIndexOf(control) != 0) control.Owner.SetFocus(control);
 }
 
@@ -136,13 +136,12 @@ bool Screen::PressButton(Form& form, const Key& key) {
     Control* const focus = form.Focus();
     const bool onButton = focus != nullptr && focus->kind == Kind::CommandButton;
     if ((key.Code == KeyEnter || key.Code == KeySpace) && onButton) return Trigger(*focus) == Refusal::None;
-    for (Control* control : form.Controls()) {
-        if (control->kind != Kind::CommandButton) continue;
+    return std::ranges::any_of(form.Controls(), [this, &key](Control* control) {
+        if (control->kind != Kind::CommandButton) return false;
         const auto& button = static_cast<const CommandButton&>(*control);
         const bool meant = (key.Code == KeyEnter && button.Default) || (key.Code == KeyEscape && button.Cancel);
-        if (meant && Trigger(*control) == Refusal::None) return true;
-    }
-    return false;
+        return meant && Trigger(*control) == Refusal::None;
+    });
 }
 
 void Screen::PressPreview(Form& form, const Key& key) {

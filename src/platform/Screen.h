@@ -57,7 +57,7 @@ public:
     /// The closing cross of a form.
     Refusal Close(Form& form);
     /// The player moves the focus.
-    void Focus(Control& control);
+    void Focus(Control& control) const;
     /// Runs the first timer that is due; false when none is.
     bool Tick(Moment now);
 

@@ -12,10 +12,10 @@ namespace {
 
 using Starts = std::array<std::uint16_t, NúmEntradas + 2>;
 
-platform::Text Entry(const char* bytes, const Starts& starts, int index) {
+platform::Text Entry(std::string_view bytes, const Starts& starts, int index) {
     if (index < 1 || index > NúmEntradas) return {};
     const auto i = static_cast<std::size_t>(index);
-    return platform::FromWindows1252(std::string_view(bytes + starts[i], bytes + starts[i + 1]));
+    return platform::FromWindows1252(bytes.substr(starts[i], starts[i + 1] - starts[i]));
 }
 
 }  // namespace

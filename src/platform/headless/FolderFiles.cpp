@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 /// Names carry accents as UTF-8 on every system.
 fs::path PathOf(std::string_view name) {
-    return fs::path(std::u8string(name.begin(), name.end()));
+    return {std::u8string(name.begin(), name.end())};
 }
 
 /// The file open for reading and writing, created when it is not there.

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path PathOf(std::string_view name) {
-    return fs::path(std::u8string(name.begin(), name.end()));
+    return {std::u8string(name.begin(), name.end())};
 }
 
 std::string_view TrimmedView(std::string_view text) {

@@ -136,7 +136,7 @@ std::string Format(const Value& value) {
 }
 
 std::optional<Value> PropertyOf(const Control& control, std::string_view name) {
-    const auto value = ReadLook(control, name);
+    auto value = ReadLook(control, name);
     if (value || control.kind == Kind::Timer || control.kind == Kind::Menu) return value;
     return Read<Place>(control, kPlace, name);
 }

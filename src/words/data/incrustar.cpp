@@ -4,6 +4,7 @@
 //   incrustar castellano.txt ingles.txt Tablas.inc
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -103,16 +104,16 @@ void Write(std::ostream& out, const char* name, const Column& column) {
         out << start << ',';
         start += entry.size();
     }
-    out << start << "};\nconstexpr char k" << name << "[] =\n";
+    out << start << "};\nconstexpr std::string_view k" << name << " =\n";
     for (const Text& entry : column) {
         out << '"';
         for (const char byte : platform::ToWindows1252(entry)) {
-            char octal[8];
-            std::snprintf(octal, sizeof octal, "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+            std::array<char, 8> octal{};
+            std::snprintf(octal.data(), octal.size(), "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
             if (byte > 0) {
                 out << byte;
             } else {
-                out << octal;
+                out << octal.data();
             }
         }
         out << "\"\n";
