@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string_view>
 
+#include "platform/headless/FolderFiles.h"
 #include "platform/headless/Player.h"
 #include "shell/Juego.h"
 
@@ -19,7 +20,8 @@ int Fail(std::string_view why) {
 }
 
 int Play(std::istream& script) {
-    platform::headless::Headless headless;
+    platform::headless::FolderFiles files;
+    platform::headless::Headless headless(files);
     juego::Juego juego(headless.Services());
     platform::headless::Player player(
         headless,

@@ -77,6 +77,7 @@ void Juego::Form_Load() {
     z.cmdDorvanquil.Caption = PáginaWeb;
     OcultarFondos(z);
     z.picFondo(2).Visible = true;
+    Diario::Recuperar(s.Files);
     z.último = static_cast<Integer>(ContarGuardadas(z, s.Files));
     if (z.último == 0) z.mnuReanudar.Enabled = false;
 }

@@ -20,18 +20,15 @@ void AnotarPartida::operator()() {
 bool AnotarPartida::Anotar() {
     const auto count = LeerContador(files, ArchivoÚltimas);
     if (!count) return false;
-    z.NúmPartidas = static_cast<Integer>(*count);
-    ArchivoRegistros<FilaÚltima> rows(files, ArchivoÚltimas);
-    if (!rows.AbrirHueco(1, z.NúmPartidas)) return false;
-    if (z.NúmPartidas < ArchivoÚltimas.Límite) ++z.NúmPartidas;
-    if (!EscribirContador(files, ArchivoÚltimas, z.NúmPartidas)) return false;
-    return rows.Escribir(1, {.Palabra = z.NúmPalabra == kWon ? u"FINAL" : SignedDecimal(z.NúmPalabra),
-                             .Nombre = z.Nombre,
-                             .puntos = SignedDecimal(z.puntos),
-                             .plenos = SignedDecimal(z.plenos),
-                             .Modo = z.Modo,
-                             .Tiempo = z.TextoTiempo,
-                             .Fecha = z.FechaPartida});
+    z.NúmPartidas = static_cast<Integer>(std::min(*count + 1, ArchivoÚltimas.Límite));
+    return InsertarFila(files, ArchivoÚltimas, 1, *count,
+                        FilaÚltima{.Palabra = z.NúmPalabra == kWon ? u"FINAL" : SignedDecimal(z.NúmPalabra),
+                                   .Nombre = z.Nombre,
+                                   .puntos = SignedDecimal(z.puntos),
+                                   .plenos = SignedDecimal(z.plenos),
+                                   .Modo = z.Modo,
+                                   .Tiempo = z.TextoTiempo,
+                                   .Fecha = z.FechaPartida});
 }
 
 }  // namespace juego

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <span>
+#include <variant>
 
 namespace juego {
 

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
-#include <variant>
 
 #include "game/Zarpi.h"
 #include "store/Archivos.h"
+#include "store/Diario.h"
 
 /// The three record types. A record is a run of fixed-width fields of Windows-1252 text, numbers included, and padding.
 namespace juego {
@@ -115,5 +116,15 @@ private:
     Files& files;
     std::string_view name;
 };
+
+/// Puts a row into a list of `count` at place k: the rows from there on move down, the counter grows up to the limit of
+/// the list. All of it happens or nothing; false if nothing.
+template <class Registro>
+bool InsertarFila(Files& files, const Par& par, int k, int count, const Registro& row) {
+    Diario diario(files, par);
+    ArchivoRegistros<Registro> rows(files, par);
+    return diario.Anotado() && rows.AbrirHueco(k, count) &&
+           EscribirContador(files, par, std::min(count + 1, par.Límite)) && rows.Escribir(k, row) && diario.Confirmar();
+}
 
 }  // namespace juego

@@ -1,7 +1,5 @@
 #include "store/frmCuadro.h"
 
-#include <algorithm>
-
 #include "game/Impresión.h"
 #include "game/Modos.h"
 #include "store/AvisoError.h"
@@ -66,11 +64,13 @@ void frmCuadro::cmdRestablecer_Click() {
 }
 
 bool frmCuadro::Restablecer() {
+    Diario diario(files, Archivo());
     ArchivoRegistros<FilaHonor> rows(files, Archivo());
+    if (!diario.Anotado()) return false;
     for (int k = 1; k <= LímiteFilas; ++k) {
         if (!rows.Vaciar(k)) return false;
     }
-    return EscribirContador(files, Archivo(), 0);
+    return EscribirContador(files, Archivo(), 0) && diario.Confirmar();
 }
 
 bool InsertarEnCuadro(const Zarpi& z, Files& files, const Text& fecha) {
@@ -86,13 +86,12 @@ bool InsertarEnCuadro(const Zarpi& z, Files& files, const Text& fecha) {
         if (z.puntos <= NúmeroDeCampo(row->puntos)) break;
     }
     if (above == LímiteFilas) return true;
-    if (!rows.AbrirHueco(above + 1, *count)) return false;
-    if (!EscribirContador(files, pair, std::min(*count + 1, LímiteFilas))) return false;
-    return rows.Escribir(above + 1, {.puntos = SignedDecimal(z.puntos),
-                                     .Nombre = z.Nombre,
-                                     .plenos = SignedDecimal(z.plenos),
-                                     .Tiempo = Text(TextoDeTiempo(z.Tiempo)),
-                                     .Fecha = fecha});
+    return InsertarFila(files, pair, above + 1, *count,
+                        FilaHonor{.puntos = SignedDecimal(z.puntos),
+                                  .Nombre = z.Nombre,
+                                  .plenos = SignedDecimal(z.plenos),
+                                  .Tiempo = Text(TextoDeTiempo(z.Tiempo)),
+                                  .Fecha = fecha});
 }
 
 }  // namespace juego

@@ -145,10 +145,11 @@ bool frmReanudar::ContraseñaCorrecta() {
 
 /// Takes the chosen game out of the file: the records behind it first, then the counter.
 bool frmReanudar::Retirar() {
-    if (!games.CerrarHueco(PartidaElegida, último)) return false;
-    if (!EscribirContador(files, ArchivoGuardadas, último - 1)) return false;
-    --último;
-    return true;
+    Diario diario(files, ArchivoGuardadas);
+    const bool retired = diario.Anotado() && games.CerrarHueco(PartidaElegida, último) &&
+                         EscribirContador(files, ArchivoGuardadas, último - 1) && diario.Confirmar();
+    if (retired) --último;
+    return retired;
 }
 
 void frmReanudar::Form_QueryUnload() {

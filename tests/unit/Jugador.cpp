@@ -35,9 +35,15 @@ std::string FaultOfFiles(Files& files) {
 
 }  // namespace
 
+Jugador::Jugador() {
+    for (const char* counter : {"Ultimo", "UltPart", "UltCeI", "UltIyC", "UltCas", "UltIng", "UltCoI"}) {
+        files_.Replace(std::string(counter) + ".dat", " 0 \r\n");
+    }
+}
+
 void Jugador::Restart() {
     juego_.reset();
-    headless_ = std::make_unique<headless::Headless>();
+    headless_ = std::make_unique<headless::Headless>(files_);
     juego_ = std::make_unique<juego::Juego>(headless_->Services());
     windows_ = juego_->Ventanas();
     headless_->SetPlayer([this] { return OneMove(); });

@@ -5,12 +5,17 @@
 #include <string>
 
 #include "platform/headless/Headless.h"
+#include "platform/headless/MemoryFiles.h"
 #include "shell/Juego.h"
 
-/// Players for tests: each plays the whole program on the platform in memory, in the current folder.
+/// Players for tests: each plays the whole program on the platform in memory, in a game folder of its own.
 class Jugador {
 public:
+    Jugador();
     virtual ~Jugador() = default;
+
+    /// The stored files that the player's programs share.
+    platform::Files& Files() { return files_; }
 
 protected:
     /// Starts the program anew; the files stay.
@@ -26,6 +31,7 @@ protected:
     void Press(char16_t character) { PressKey(platform::KeyOf(character)); }
     void PressKey(const platform::Key& key);
 
+    platform::headless::MemoryFiles files_;
     std::unique_ptr<platform::headless::Headless> headless_;
     std::unique_ptr<juego::Juego> juego_;
     std::vector<platform::Form*> windows_;

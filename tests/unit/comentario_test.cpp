@@ -10,6 +10,7 @@
 
 #include "commentary/FrasesPalabra.h"
 #include "platform/headless/Headless.h"
+#include "platform/headless/MemoryFiles.h"
 #include "words/Tablas.h"
 
 namespace juego {
@@ -57,7 +58,8 @@ TextView ExpectedHint(const std::string& w, int p, int level) {
 }
 
 struct Escena {
-    Headless headless;
+    platform::headless::MemoryFiles files;
+    Headless headless{files};
     Zarpi z;
     platform::Services services = headless.Services();
     Comentario comentario{z, services.Random, services.Clock};

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "Carpeta.h"
+#include "platform/headless/FolderFiles.h"
 #include "platform/headless/Player.h"
 #include "shell/Juego.h"
 
@@ -17,7 +18,8 @@ struct Outcome {
 /// Plays a script; a script that cannot be read throws.
 Outcome Play(const std::string& script) {
     const Carpeta folder;
-    platform::headless::Headless headless;
+    platform::headless::FolderFiles files;
+    platform::headless::Headless headless(files);
     juego::Juego juego(headless.Services());
     std::ostringstream out;
     platform::headless::Player player(

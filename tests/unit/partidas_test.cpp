@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "Carpeta.h"
 #include "Jugador.h"
 
 namespace {
@@ -15,7 +14,6 @@ int Thousands() {
 }
 
 TEST(Partidas, HoldWhateverThePlayerDoes) {
-    const Carpeta folder;
     long games = 0;
     for (int round = 0; round < Thousands(); ++round) {
         JugadorAlAzar player(static_cast<unsigned>(round) + 1);
@@ -29,7 +27,6 @@ TEST(Partidas, HoldWhateverThePlayerDoes) {
 
 TEST(Partidas, AreWonInEveryMode) {
     for (int mode = 1; mode <= 5; ++mode) {
-        const Carpeta folder;
         JugadorQueSabe player(mode);
         EXPECT_EQ(player.Win(), "") << mode;
     }

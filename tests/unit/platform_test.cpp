@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/headless/Headless.h"
+#include "platform/headless/MemoryFiles.h"
 
 namespace platform::headless {
 namespace {
@@ -58,7 +59,8 @@ protected:
         headless.screen.ShowModal(dialog);
         story += '.';
     }
-    Headless headless;
+    MemoryFiles files;
+    Headless headless{files};
     Main main;
     Dialog dialog;
     std::string story;

@@ -1,6 +1,5 @@
 #include "platform/desktop/Mixer.h"
 
-#include <malloc.h>
 #include <QFile>
 #include <QTemporaryFile>
 #include <algorithm>
@@ -102,7 +101,7 @@ Mix_Music* Mixer::LoadMusic(const QByteArray& midi) {
     library_.SetSoundFonts((isCut ? part.fileName() : font.fileName()).toUtf8().constData());
     font.close();
     SDL_RWops* const stream = library_.FromMemory(midi.constData(), static_cast<int>(midi.size()));
-    Mix_Music* m = library_.LoadMusic(stream, MUS_MID, SDL_TRUE); malloc_trim(0); return m;
+    return library_.LoadMusic(stream, MUS_MID, SDL_TRUE);
 }
 
 void Mixer::PlaySound(const std::string& channel, const std::string& file) {

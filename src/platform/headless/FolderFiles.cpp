@@ -64,4 +64,10 @@ bool FolderFiles::Replace(std::string_view name, std::string_view content) {
     return false;
 }
 
+bool FolderFiles::Remove(std::string_view name) {
+    std::error_code error;
+    if (fs::is_regular_file(PathOf(name))) fs::remove(PathOf(name), error);
+    return !error;
+}
+
 }  // namespace platform::headless

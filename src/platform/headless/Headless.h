@@ -9,7 +9,6 @@
 #include "platform/Generator.h"
 #include "platform/Screen.h"
 #include "platform/Services.h"
-#include "platform/headless/FolderFiles.h"
 
 /// A complete platform in memory: a clock that moves when told, and a log of what was sounded, printed and shown.
 namespace platform::headless {
@@ -71,7 +70,8 @@ private:
 /// The platform. Its player is a function that makes one move at each call.
 class Headless : Display, Dialogs, Printer, Media, Web {
 public:
-    Headless() = default;
+    /// The stored files lie where `files` keeps them; it must outlive the platform.
+    explicit Headless(platform::Files& files) : files(files) {}
 
     /// `move` makes the player's next move, false when he has none left; a modal form waits for his moves.
     void SetPlayer(std::function<bool()> move) { move_ = std::move(move); }
@@ -81,7 +81,7 @@ public:
     Log log;
     ManualClock clock;
     ScriptedRandom random{log};
-    FolderFiles files;
+    platform::Files& files;
     Scheduler scheduler{[this] { return clock.Now(); }};
     Screen screen{*this, scheduler};
 

@@ -109,7 +109,8 @@ void Write(std::ostream& out, const char* name, const Column& column) {
         out << '"';
         for (const char byte : platform::ToWindows1252(entry)) {
             std::array<char, 8> octal{};
-            std::snprintf(octal.data(), octal.size(), "\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+            std::snprintf(octal.data(), octal.size(), "\\%03o",
+                          static_cast<unsigned>(static_cast<unsigned char>(byte)));
             if (byte > 0) {
                 out << byte;
             } else {
