@@ -33,7 +33,9 @@ TEST_F(Folder, StoresAndReads) {
     EXPECT_EQ(files.ReadAt("CeI.rnd", 4, 3), "wxY");
     EXPECT_EQ(files.ReadAt("CeI.rnd", 6, 9), "YZ");
     EXPECT_EQ(files.ReadAt("CeI.rnd", 100, 9), "");
-    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 2);  // nothing is left beside
+    EXPECT_TRUE(files.Remove("CeI.rnd"));
+    EXPECT_TRUE(files.Remove("CeI.rnd"));
+    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("Ultimo.dat"));  // nothing is left beside
 }
 
 TEST_F(Folder, TellsFailures) {
@@ -42,6 +44,7 @@ TEST_F(Folder, TellsFailures) {
     EXPECT_EQ(files.ReadAt("Ultimo.dat", 0, 1), std::nullopt);
     EXPECT_FALSE(files.WriteAt("Ultimo.dat", 0, "x"));
     EXPECT_FALSE(files.Replace("Ultimo.dat", "x"));
+    EXPECT_FALSE(files.Remove("Ultimo.dat"));
     EXPECT_FALSE(files.WriteAt("CeI.rnd", -1, "x"));
 }
 

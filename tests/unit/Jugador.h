@@ -53,8 +53,10 @@ public:
     std::string Play(int moves);
     int Games() const { return games_; }
 
-private:
+protected:
     void Move() override;
+
+private:
     void ClickAnything();
     void TypeAnything();
     platform::Control* AnyControl(platform::Form& form);

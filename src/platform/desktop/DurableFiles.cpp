@@ -80,4 +80,12 @@ bool DurableFiles::Replace(std::string_view name, std::string_view content) {
     return true;
 }
 
+bool DurableFiles::Remove(std::string_view name) {
+    QFile file(ToQt(name));
+    if (!file.exists()) return true;
+    if (!file.remove()) return false;
+    SyncFolder();
+    return true;
+}
+
 }  // namespace platform::desktop
