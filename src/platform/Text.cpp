@@ -120,7 +120,9 @@ Text Decimal(int number) {
 }
 
 Text SignedDecimal(int number) {
-    return (number < 0 ? u"" : u" ") + Decimal(number);
+    Text text = Decimal(number);
+    if (number >= 0) text.insert(text.begin(), u' ');
+    return text;
 }
 
 }  // namespace platform

@@ -75,8 +75,9 @@ bool Headless::ShowDialog() {
 }
 
 void Headless::Command(const MediaChannel& channel, MediaCommand command) {
-    std::string entry = "sound " + channel.Name + " " + std::string(CommandName(command));
-    if (command == MediaCommand::Open) entry += " " + ToUtf8(channel.FileName);
+    std::string entry = "sound ";
+    entry.append(channel.Name).append(" ").append(CommandName(command));
+    if (command == MediaCommand::Open) entry.append(" ").append(ToUtf8(channel.FileName));
     log.Add(std::move(entry));
 }
 

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <charconv>
-#include <cstdio>
 #include <filesystem>
 #include <ostream>
 
@@ -18,11 +17,13 @@ std::pair<std::string_view, std::string_view> SplitWord(std::string_view line) {
 }
 
 std::string Hex(std::string_view bytes) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string hex;
     for (const char byte : bytes) {
-        std::array<char, 4> digits{};
-        std::snprintf(digits.data(), digits.size(), "%02X", static_cast<unsigned>(static_cast<unsigned char>(byte)));
-        hex += (hex.empty() ? "" : " ") + std::string(digits.data());
+        const auto code = static_cast<unsigned char>(byte);
+        if (!hex.empty()) hex += ' ';
+        hex += kDigits[code / 16U];
+        hex += kDigits[code % 16U];
     }
     return hex;
 }

@@ -70,7 +70,7 @@ Value ToValue(const T& member) {
     return member;
 }
 Value ToValue(const Color& color) {
-    std::array<char, 8> hex{};
+    std::array<char, 16> hex{};
     if (color.IsNone()) return Text();
     std::snprintf(hex.data(), hex.size(), "#%06X", static_cast<unsigned>(color.Rgb));
     return FromUtf8(hex.data());
