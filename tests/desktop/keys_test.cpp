@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
+#include "platform/desktop/Keys.h"
 
 #include <QInputMethodEvent>
+#include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "platform/desktop/Keys.h"
 
 namespace platform::desktop {
 namespace {

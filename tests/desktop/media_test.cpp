@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 #include <cmath>
+#include <gtest/gtest.h>
 
 #include "platform/desktop/MediaPlayer.h"
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QAction>
 #include <QClipboard>
 #include <QFile>
@@ -10,6 +8,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include "Rig.h"
 #include "platform/desktop/FormPrinter.h"

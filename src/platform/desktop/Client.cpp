@@ -25,7 +25,9 @@ void Client::paintEvent(QPaintEvent* event) {
 }
 
 // A press that nobody takes would go on to the window behind.
-void Client::mousePressEvent(QMouseEvent* event) { event->accept(); }
+void Client::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
 
 void Client::mouseReleaseEvent(QMouseEvent* event) {
     const bool inside = rect().contains(event->position().toPoint());

@@ -136,8 +136,12 @@ Desktop::Desktop(int& argc, char** argv) {
 
 Desktop::~Desktop() = default;
 
-platform::Services& Desktop::Services() { return parts_->Services(); }
+platform::Services& Desktop::Services() {
+    return parts_->Services();
+}
 
-int Desktop::Run() { return parts_->Run(); }
+int Desktop::Run() {
+    return parts_->Run();
+}
 
 }  // namespace platform::desktop

@@ -38,7 +38,9 @@ void SyncFolder() {
 #endif
 }
 
-std::string ToBytes(const QByteArray& bytes) { return bytes.toStdString(); }
+std::string ToBytes(const QByteArray& bytes) {
+    return bytes.toStdString();
+}
 
 }  // namespace
 
@@ -75,7 +77,8 @@ bool DurableFiles::Replace(std::string_view name, std::string_view content) {
     // Written beside, brought to the disk, and renamed over the old content.
     QSaveFile file(ToQt(name));
     const auto length = static_cast<qint64>(content.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), length) != length || !file.commit()) return false;
+    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), length) != length || !file.commit())
+        return false;
     SyncFolder();
     return true;
 }

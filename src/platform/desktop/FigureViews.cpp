@@ -15,8 +15,9 @@ QPen PenOf(Color color, int lineWidth) {
 
 }  // namespace
 
-void ShapeWidget::SetLook(const ShapeLook& look, int lineWidth) {
+void ShapeWidget::SetLook(const ShapeLook& look, int lineWidth, int rounding) {
     figure_ = look.Shape;
+    rounding_ = look.Shape == Figure::RoundedRectangle ? rounding : 0;
     fill_ = look.FillColor.IsNone() ? QBrush(Qt::NoBrush) : QBrush(ToQt(look.FillColor));
     border_ = PenOf(look.BorderColor, lineWidth);
     update();
@@ -33,7 +34,7 @@ void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
     if (figure_ == Figure::Oval) {
         painter.drawEllipse(box);
     } else {
-        const double radius = figure_ == Figure::Rectangle ? 0 : kRounding * qMin(width(), height());
+        const double radius = qMin<double>(rounding_, kRounding * qMin(width(), height()));
         painter.drawRoundedRect(box, radius, radius);
     }
 }
@@ -42,7 +43,11 @@ ShapeView::ShapeView(const Toolkit& toolkit, Shape& element, QWidget& client) : 
     widget_.setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void ShapeView::Apply(const ShapeLook& look) { widget_.SetLook(look, toolkit_.Scale.LineWidth(look.BorderWidth)); }
+void ShapeView::Apply(const ShapeLook& look) {
+    constexpr int kLargestRounding = 270;  // twips
+    const Scale& scale = toolkit_.Scale;
+    widget_.SetLook(look, scale.LineWidth(look.BorderWidth), scale.Pixels(kLargestRounding));
+}
 
 void LineWidget::SetPen(const QPen& pen) {
     pen_ = pen;

@@ -11,8 +11,8 @@ class ShapeWidget : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// `lineWidth` is that of the border in pixels.
-    void SetLook(const ShapeLook& look, int lineWidth);
+    /// The width of the border and the largest rounding of a corner, in pixels.
+    void SetLook(const ShapeLook& look, int lineWidth, int rounding);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -21,6 +21,7 @@ private:
     Figure figure_ = Figure::Rectangle;
     QBrush fill_;
     QPen border_;
+    int rounding_ = 0;
 };
 
 /// The view of a shape. The mouse goes through it to what lies behind.

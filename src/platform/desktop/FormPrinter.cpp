@@ -42,6 +42,9 @@ void PrintWidget(QWidget& widget, QPrinter& printer) {
                                    static_cast<double>(page.height()) / widget.height());
     painter.scale(factor, factor);
     painter.setClipRect(widget.rect());
+    // A picture keeps its size in inches; its own pixels are meant.
+    const double pixels = static_cast<double>(picture.logicalDpiX()) / printer.logicalDpiX();
+    painter.scale(pixels, pixels);
     painter.drawPicture(0, 0, picture);
 }
 

@@ -120,7 +120,8 @@ void FormWindow::SetPlace() {
     move(std::max(desk.left(), std::min(corner.x(), last.x())), std::max(desk.top(), std::min(corner.y(), last.y())));
 }
 
-/// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old one.
+/// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old
+/// one.
 void FormWindow::RefreshLayers() {
     const auto now = form_.Controls();
     if (std::ranges::equal(now, layers_)) return;

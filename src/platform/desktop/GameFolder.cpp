@@ -87,6 +87,8 @@ bool GameFolder::Lock() {
     return lock_->tryLock() || lock_->error() != QLockFile::LockFailedError;
 }
 
-void GameFolder::Leave() { lock_.reset(); }
+void GameFolder::Leave() {
+    lock_.reset();
+}
 
 }  // namespace platform::desktop

@@ -8,8 +8,8 @@ namespace platform::desktop {
 
 /// The current folder of the program, where it finds its pictures and sounds and keeps what it stores.
 ///
-/// A folder that holds the game's files is played in where it is: the current one (a portable copy, a test), else that of
-/// the program. An installed program plays in the player's own data folder, which it furnishes at its first start.
+/// A folder that holds the game's files is played in where it is: the current one (a portable copy, a test), else that
+/// of the program. An installed program plays in the player's own data folder, which it furnishes at its first start.
 class GameFolder {
 public:
     struct Places {

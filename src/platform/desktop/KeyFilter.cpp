@@ -51,6 +51,8 @@ void KeyFilter::TakeText(const QString& text) {
 }
 
 /// A key that was still on its way to a form that is gone must not reach the one behind.
-bool KeyFilter::Press(const Key& key) { return screen_.Front() != &form_ || screen_.Press(key); }
+bool KeyFilter::Press(const Key& key) {
+    return screen_.Front() != &form_ || screen_.Press(key);
+}
 
 }  // namespace platform::desktop

@@ -77,7 +77,8 @@ std::optional<Key> KeyReader::Read(const QKeyEvent& press) {
         accent_ = dead->combining;
         return std::nullopt;
     }
-    const bool controlOnly = press.modifiers().testFlag(Qt::ControlModifier) && !press.modifiers().testFlag(Qt::AltModifier);
+    const bool controlOnly =
+        press.modifiers().testFlag(Qt::ControlModifier) && !press.modifiers().testFlag(Qt::AltModifier);
     if (controlOnly && press.key() >= Qt::Key_A && press.key() <= Qt::Key_Z) {
         return ControlKey(static_cast<char>(press.key()));
     }

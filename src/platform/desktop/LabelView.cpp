@@ -25,10 +25,12 @@ void LabelWidget::SetLook(const LabelLook& look, const QFont& font, int lineWidt
     update();
 }
 
-QRect LabelWidget::TextBox() const { return rect().adjusted(border_, border_, -border_, -border_); }
+QRect LabelWidget::TextBox() const {
+    return rect().adjusted(border_, border_, -border_, -border_);
+}
 
-/// Where the first line begins. A single line on a ground of its own stands with its capitals in the middle; every other
-/// text begins at the top. A line that is higher than its box is moved until no stroke of it is cut off.
+/// Where the first line begins. A single line on a ground of its own stands with its capitals in the middle; every
+/// other text begins at the top. A line that is higher than its box is moved until no stroke of it is cut off.
 int LabelWidget::TextTop(const QRect& box) const {
     const QFontMetrics metrics = fontMetrics();
     const int height = metrics.boundingRect(box, kWrap, text()).height();

@@ -51,6 +51,7 @@ void MenuView::AddEntry(Menu& menu) {
 void MenuView::Show(const Entry& entry) {
     const MenuLook& look = *entry.menu;
     const QString shortcut = ShortcutText(look.Shortcut);
+    if (entry.action->isSeparator()) return;
     entry.action->setText(ToQt(look.Caption) + (shortcut.isEmpty() ? "" : "\t" + shortcut));
     // Only a checked entry has a box: an empty one would promise that a click checks it.
     entry.action->setCheckable(look.Checked);

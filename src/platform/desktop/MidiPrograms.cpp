@@ -73,8 +73,9 @@ MidiPrograms ProgramsOf(QByteArrayView midi) {
         const auto length = std::min<qsizetype>(qFromBigEndian<quint32>(midi.data() + 4), midi.size() - kHeader);
         if (midi.first(4) == "MTrk") {
             Track(midi.sliced(kHeader, length))
-                .Read([&asked](int channel, int program) { asked.at(static_cast<std::size_t>(channel)).insert(program); },
-                      [&sounding](int channel) { sounding.insert(channel); });
+                .Read(
+                    [&asked](int channel, int program) { asked.at(static_cast<std::size_t>(channel)).insert(program); },
+                    [&sounding](int channel) { sounding.insert(channel); });
         }
         midi = midi.sliced(kHeader + length);
     }

@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kLinger = 4s;      // from the last sound to the closing of the device
+constexpr auto kLinger = 4s;       // from the last sound to the closing of the device
 constexpr auto kRetryAfter = 30s;  // from a device that did not open to the next attempt
 
 /// Where systems keep a small set of General MIDI instruments; the game folder comes first.
@@ -30,7 +30,9 @@ constexpr std::array<const char*, 8> kSoundFonts = {
     "/usr/share/sounds/sf2/FluidR3_GM.sf2",
 };
 
-bool IsMusic(const std::string& file) { return file.ends_with(".mid"); }
+bool IsMusic(const std::string& file) {
+    return file.ends_with(".mid");
+}
 
 /// Empty if there is none.
 QString FindSoundFont() {
@@ -46,7 +48,9 @@ QByteArray Content(const std::string& name) {
 
 }  // namespace
 
-Mixer::~Mixer() { Close(); }
+Mixer::~Mixer() {
+    Close();
+}
 
 void Mixer::Do(const std::string& channel, const std::string& file, MediaCommand command) {
     switch (command) {

@@ -32,13 +32,13 @@ bool MixerLibrary::Load() {
     sdl_.setFileNameAndVersion(kSdl, kVersion);
     return mixer_.load() && sdl_.load() && Resolve(mixer_, "Mix_OpenAudio", OpenAudio) &&
            Resolve(mixer_, "Mix_CloseAudio", CloseAudio) && Resolve(mixer_, "Mix_SetSoundFonts", SetSoundFonts) &&
-           Resolve(mixer_, "Mix_AllocateChannels", AllocateChannels) &&
-           Resolve(mixer_, "Mix_LoadWAV_RW", LoadWav) && Resolve(mixer_, "Mix_FreeChunk", FreeChunk) &&
-           Resolve(mixer_, "Mix_PlayChannelTimed", PlayChannel) && Resolve(mixer_, "Mix_HaltChannel", HaltChannel) &&
-           Resolve(mixer_, "Mix_Playing", Playing) && Resolve(mixer_, "Mix_LoadMUSType_RW", LoadMusic) &&
-           Resolve(mixer_, "Mix_FreeMusic", FreeMusic) && Resolve(mixer_, "Mix_PlayMusic", PlayMusic) &&
-           Resolve(mixer_, "Mix_HaltMusic", HaltMusic) && Resolve(mixer_, "Mix_PlayingMusic", PlayingMusic) &&
-           Resolve(sdl_, "SDL_RWFromConstMem", FromMemory) && Resolve(sdl_, "SDL_QuitSubSystem", QuitSubSystem);
+           Resolve(mixer_, "Mix_AllocateChannels", AllocateChannels) && Resolve(mixer_, "Mix_LoadWAV_RW", LoadWav) &&
+           Resolve(mixer_, "Mix_FreeChunk", FreeChunk) && Resolve(mixer_, "Mix_PlayChannelTimed", PlayChannel) &&
+           Resolve(mixer_, "Mix_HaltChannel", HaltChannel) && Resolve(mixer_, "Mix_Playing", Playing) &&
+           Resolve(mixer_, "Mix_LoadMUSType_RW", LoadMusic) && Resolve(mixer_, "Mix_FreeMusic", FreeMusic) &&
+           Resolve(mixer_, "Mix_PlayMusic", PlayMusic) && Resolve(mixer_, "Mix_HaltMusic", HaltMusic) &&
+           Resolve(mixer_, "Mix_PlayingMusic", PlayingMusic) && Resolve(sdl_, "SDL_RWFromConstMem", FromMemory) &&
+           Resolve(sdl_, "SDL_QuitSubSystem", QuitSubSystem);
 }
 
 }  // namespace platform::desktop

@@ -1,9 +1,8 @@
 #pragma once
 
+#include <QLibrary>
 #include <SDL.h>
 #include <SDL_mixer.h>
-
-#include <QLibrary>
 
 namespace platform::desktop {
 

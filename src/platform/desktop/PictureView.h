@@ -28,7 +28,8 @@ public:
 
 protected:
     void Apply(const PictureLook& look) override;
-    /// Its size is rounded by itself, as that of its picture is, so that the picture fits to the pixel wherever it moves.
+    /// Its size is rounded by itself, as that of its picture is, so that the picture fits to the pixel wherever it
+    /// moves.
     [[nodiscard]] QRect Geometry(const platform::Place& place) const override;
 
 private:

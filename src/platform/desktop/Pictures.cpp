@@ -19,7 +19,9 @@ struct Source {
     QString twice;
 };
 
-QString Existing(const QString& path) { return QFile::exists(path) ? path : QString(); }
+QString Existing(const QString& path) {
+    return QFile::exists(path) ? path : QString();
+}
 
 QString FindStored(const QString& name) {
     const QString png = Existing(name + ".png");
@@ -59,7 +61,9 @@ QPixmap Read(const Source& source, QSize size, double factor) {
 
 }  // namespace
 
-QPixmap Pictures::OwnSize(const PictureLook& look) const { return Read(SourceOf(look), {}, scale_.Factor()); }
+QPixmap Pictures::OwnSize(const PictureLook& look) const {
+    return Read(SourceOf(look), {}, scale_.Factor());
+}
 
 QPixmap Pictures::Fitted(const PictureLook& look, QSize size) const {
     return size.isEmpty() ? QPixmap() : Read(SourceOf(look), size, scale_.Factor());

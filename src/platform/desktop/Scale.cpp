@@ -15,6 +15,8 @@ constexpr double kLargestHeight = 568 + 23;
 constexpr int kFrameWidth = 4;
 constexpr int kFrameHeight = 40;
 constexpr double kStep = 0.25;
+/// In percent: MS Sans Serif is a trifle narrower than what stands in for it, and texts are laid out to the line.
+constexpr int kSansStretch = 97;
 
 /// The families that stand in for the fonts of the design, by FontName: first those of equal widths that the package
 /// brings along, then what other systems have.
@@ -46,6 +48,7 @@ QFont Scale::Font(FontName name, double points, bool bold) const {
     QFont font(Families(name));
     font.setPixelSize(qMax(1, static_cast<int>(points * kTwipsPerPoint / kTwipsPerPixel * factor_ + kTolerance)));
     font.setBold(bold);
+    if (name == FontName::MSSansSerif) font.setStretch(kSansStretch);
     // Hinted in height only: crisp, and as wide at every factor and on every machine as the design has it.
     font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;

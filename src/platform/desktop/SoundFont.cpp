@@ -143,8 +143,7 @@ private:
         AppendZone();
         const int firstModulator = Get<quint16>(zones_, zone * kZone + 2);
         const int endModulator = Get<quint16>(zones_, (zone + 1) * kZone + 2);
-        newModulators_ +=
-            Slice(modulators_, firstModulator * kModulator, (endModulator - firstModulator) * kModulator);
+        newModulators_ += Slice(modulators_, firstModulator * kModulator, (endModulator - firstModulator) * kModulator);
         const int end = Get<quint16>(zones_, (zone + 1) * kZone);
         for (int i = Get<quint16>(zones_, zone * kZone); i < end; ++i) {
             const auto kind = Get<quint16>(generators_, i * kGenerator);
@@ -225,10 +224,9 @@ QByteArray Cut(QByteArrayView font, const MidiPrograms& programs) {
     if (!programs.melodic.contains(0)) CopyAsFirst(presets, last, usedInstruments);
     for (const quint16 number : usedInstruments.Order()) instruments.Copy(number, usedSamples);
     const Samples samples = CopySamples(blocks.at("shdr"), blocks.at("smpl"), usedSamples.Order());
-    return Block("RIFF", "sfbk" + Block("LIST", blocks.at("INFO")) +
-                             Block("LIST", "sdta" + Block("smpl", samples.sound)) +
-                             Block("LIST", "pdta" + presets.Finish() + instruments.Finish() +
-                                               Block("shdr", samples.heads)));
+    return Block("RIFF",
+                 "sfbk" + Block("LIST", blocks.at("INFO")) + Block("LIST", "sdta" + Block("smpl", samples.sound)) +
+                     Block("LIST", "pdta" + presets.Finish() + instruments.Finish() + Block("shdr", samples.heads)));
 }
 
 }  // namespace

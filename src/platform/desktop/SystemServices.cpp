@@ -17,16 +17,22 @@ Date SystemClock::Today() const {
     return {.Day = today.day(), .Month = today.month(), .Year = today.year()};
 }
 
-std::int32_t SystemClock::Time() const { return static_cast<std::int32_t>(Timer()); }
+std::int32_t SystemClock::Time() const {
+    return static_cast<std::int32_t>(Timer());
+}
 
 double SystemClock::Timer() const {
     constexpr double kMillisecond = 0.001;
     return QTime::currentTime().msecsSinceStartOfDay() * kMillisecond;
 }
 
-void SystemBrowser::Navigate(TextView address) { QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(address))); }
+void SystemBrowser::Navigate(TextView address) {
+    QDesktopServices::openUrl(QUrl::fromUserInput(ToQt(address)));
+}
 
-void MessageDialogs::Beep() { QApplication::beep(); }
+void MessageDialogs::Beep() {
+    QApplication::beep();
+}
 
 void MessageDialogs::MsgBox(TextView text, TextView title) {
     display_.Refresh();

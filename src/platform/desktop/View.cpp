@@ -83,7 +83,9 @@ View::View(const Toolkit& toolkit, Control& element, QWidget& widget)
     widget_.hide();
 }
 
-void View::TakeClicks() { new ClickFilter(widget_, toolkit_.Screen, element_); }
+void View::TakeClicks() {
+    new ClickFilter(widget_, toolkit_.Screen, element_);
+}
 
 void View::TakeFocus(int tabIndex) {
     if (tabIndex == 0) return;

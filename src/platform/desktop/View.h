@@ -52,8 +52,7 @@ private:
 template <class E, class W>
 class ElementView : public View {
 public:
-    ElementView(const Toolkit& toolkit, E& element, QWidget& client)
-        : ElementView(toolkit, element, *new W(&client)) {}
+    ElementView(const Toolkit& toolkit, E& element, QWidget& client) : ElementView(toolkit, element, *new W(&client)) {}
 
     void Refresh() override {
         const platform::Place& place = element_;

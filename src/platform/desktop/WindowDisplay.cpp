@@ -29,7 +29,9 @@ void WindowDisplay::Opened(Form& form, bool modal) {
     if (!hadWindow_) {
         // The window is up when what it has painted has left for the screen: after this round of the event loop.
         window->ClientArea().OnFirstPaint = [this] {
-            QTimer::singleShot(0, qApp, [this] { if (OnFirstWindow) OnFirstWindow(); });
+            QTimer::singleShot(0, qApp, [this] {
+                if (OnFirstWindow) OnFirstWindow();
+            });
         };
     }
     hadWindow_ = true;
