@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "commentary/FrasesPalabra.h"
-#include "commentary/FrasesReacción.h"
+#include "commentary/FrasesReaccion.h"
 
 namespace juego {
 

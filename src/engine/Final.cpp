@@ -1,13 +1,9 @@
 #include "engine/Final.h"
 
 #include "engine/Comodines.h"
+#include "game/Reglas.h"
 
 namespace juego {
-
-namespace {
-constexpr int kZarpisOfWord = 5;
-constexpr int kPlenoBonus = 10;
-}  // namespace
 
 void Final::PartidaGanada() {
     z.fVictoria = true;
@@ -16,11 +12,10 @@ void Final::PartidaGanada() {
                                 : u"¡Enhorabuena, lo has conseguido! ¿Otra partida?";
     for (Label& box : z.lblComodín) box.ToolTipText.clear();
     z.Caídas = 0;
-    const bool pleno = z.Fallo == 0;
-    z.Bonificación = static_cast<Integer>(pleno ? kPlenoBonus : 7 - z.Fallo);
-    z.puntos = static_cast<Integer>(z.puntos + kZarpisOfWord + z.Bonificación);
+    z.Bonificación = static_cast<Integer>(reglas::Bonificación(z.Fallo));
+    z.puntos = static_cast<Integer>(z.puntos + reglas::ZarpisPalabra + z.Bonificación);
     z.lblPuntos.Caption = Decimal(z.puntos);
-    if (pleno) {
+    if (z.Fallo == 0) {
         ++z.plenos;
         z.lblPlenos.Caption = Decimal(z.plenos);
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "game/Reglas.h"
 #include "sound/Sonido.h"
 #include "stage/Escena.h"
 #include "store/Plural.h"
@@ -10,16 +11,11 @@ namespace juego {
 
 namespace {
 
-constexpr int kLastWord = 30;
-constexpr int kFirstSavable = 3;
-constexpr int kJokerWord = 16;
-constexpr int kLastOfFirstHalf = 15;
-constexpr int kJokersAtStart = 3;
+constexpr int kLastOfFirstHalf = reglas::Palabras / 2;
 constexpr int kFirstScene = 2;
 constexpr int kRowWidth = 8560;
 constexpr int kBoxStep = 780;
 constexpr double kFreeSize = 24;
-constexpr int kZarpisWithJoker = 200;
 
 /// The plain vowel of an accented one; any other letter as it is.
 char16_t WithoutAccent(char16_t letter) {
@@ -53,7 +49,7 @@ void Partida::mnuNuevo_Click() {
     z.anónimo = z.Nombre;
     z.NúmNivel = 1;
     z.NúmPalabra = 0;
-    z.comodines = kJokersAtStart;
+    z.comodines = reglas::ComodinesIniciales;
     AbrirPartida();
     z.picFondo(kFirstScene).Visible = true;
     SiguientePalabra();
@@ -61,7 +57,7 @@ void Partida::mnuNuevo_Click() {
 }
 
 void Partida::NuevoReanudar() {
-    screens.Puntos.f200 = z.puntos > kZarpisWithJoker;
+    screens.Puntos.f200 = z.puntos > reglas::ZarpisComodín;
     AbrirPartida();
     z.plural = NombraVarios(z.Nombre);
     z.lblMenComienzo.Visible = false;
@@ -108,11 +104,11 @@ void Partida::AbrirPartida() {
 void Partida::SiguientePalabra() {
     z.fAcierto = false;
     ++z.NúmPalabra;
-    if (z.NúmPalabra > kLastWord) {
+    if (z.NúmPalabra > reglas::Palabras) {
         fin.PartidaGanada();
         return;
     }
-    if (z.NúmPalabra >= kFirstSavable) z.mnuGuardar.Enabled = true;
+    if (z.NúmPalabra >= reglas::PrimeraGuardable) z.mnuGuardar.Enabled = true;
     ComodínPalabra16();
     VaciarTablero();
     ReponerEscena(z);
@@ -205,7 +201,7 @@ void Partida::AbrirPalabra(bool firstOfLevel) {
 }
 
 void Partida::ComodínPalabra16() {
-    if (z.fReanudar || z.NúmPalabra != kJokerWord) return;
+    if (z.fReanudar || z.NúmPalabra != reglas::PalabraComodín) return;
     DarComodín(z);
     z.Label5.Caption = u"Has llegado a la palabra 16. Comodín extra.";
     Sonar(media, z, z.sonPal16, sonidos::Palabra16);

@@ -22,6 +22,11 @@ inline LabelLook Heading(TextView caption, double size) {
     return {.Caption = Text(caption), .BackColor = Navy, .ForeColor = White, .FontSize = size, .FontBold = true};
 }
 
+/// The name of a field in a dialog, before its value.
+inline LabelLook FieldName(TextView caption) {
+    return {.Caption = Text(caption), .FontSize = 9.75, .FontBold = true};
+}
+
 /// A value in a framed box; green unless told otherwise.
 inline LabelLook ValueBox(TextView caption, FontName font, double size, bool bold, Color back = Green,
                           Color fore = Black) {
@@ -49,10 +54,21 @@ inline ButtonLook PlateButton(TextView caption, int tabIndex, double size = 9) {
             .TabIndex = tabIndex};
 }
 
+/// The button that Enter presses, and the one that Esc presses.
+inline ButtonLook DefaultButton(TextView caption, int tabIndex) {
+    ButtonLook look = PlateButton(caption, tabIndex);
+    look.Default = true;
+    return look;
+}
+inline ButtonLook CancelButton(int tabIndex) {
+    ButtonLook look = PlateButton(u"CANCELAR", tabIndex);
+    look.Cancel = true;
+    return look;
+}
+
 /// The button that closes a dialog, by Enter and by Esc too.
 inline ButtonLook AcceptButton(int tabIndex = 1) {
-    ButtonLook look = PlateButton(u"ACEPTAR", tabIndex);
-    look.Default = true;
+    ButtonLook look = DefaultButton(u"ACEPTAR", tabIndex);
     look.Cancel = true;
     return look;
 }

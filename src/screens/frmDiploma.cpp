@@ -1,6 +1,6 @@
 #include "screens/frmDiploma.h"
 
-#include "game/Impresión.h"
+#include "game/Impresion.h"
 #include "game/Modos.h"
 #include "sound/Sonido.h"
 

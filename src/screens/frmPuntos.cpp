@@ -7,17 +7,13 @@ namespace juego {
 namespace {
 
 constexpr int kFigureStep = 840;
-constexpr int kZarpisOfWord = 5;
-constexpr int kPlenoBonus = 10;
-constexpr int kMaxJokers = 10;
-constexpr int kJokerWord = 16;
 constexpr int kBlinkAbove = 4;
 constexpr int kBlinks = 6;
 
 }  // namespace
 
 void DarComodín(Zarpi& z) {
-    if (z.comodines >= kMaxJokers) return;
+    if (z.comodines >= reglas::MáximoComodines) return;
     ++z.comodines;
     z.lblComodín(z.comodines).Visible = true;
 }
@@ -56,7 +52,7 @@ void frmPuntos::Form_Load() {
     fExtraAnunciado = false;
     Puntuar();
     Label2.Caption = u"Zarpis de bonificación: " + Decimal(Bonificación);
-    Label4.Caption = Decimal(kZarpisOfWord + Bonificación);
+    Label4.Caption = Decimal(reglas::ZarpisPalabra + Bonificación);
     fExtraAnunciado = false;
     for (int i = 1; i <= Bonificación; ++i) picBonifi(i).Visible = true;
     if (Bonificación > kBlinkAbove) Timer1.Start();
@@ -68,18 +64,18 @@ void frmPuntos::Form_Load() {
 
 void frmPuntos::Puntuar() {
     const bool pleno = z.Fallo == 0;
-    Bonificación = static_cast<Integer>(pleno ? kPlenoBonus : 7 - z.Fallo);
+    Bonificación = static_cast<Integer>(reglas::Bonificación(z.Fallo));
     if (pleno) {
         Label5.Visible = true;
         Label2.Width = 4905;
         ++z.plenos;
         z.lblPlenos.Caption = Decimal(z.plenos);
     }
-    z.puntos = static_cast<Integer>(z.puntos + kZarpisOfWord + Bonificación);
+    z.puntos = static_cast<Integer>(z.puntos + reglas::ZarpisPalabra + Bonificación);
     z.lblPuntos.Caption = Decimal(z.puntos);
     if (!pleno) return;
     ComodínPlenos();
-    if (!fExtraAnunciado && z.NúmPalabra != kJokerWord && !Pasa200()) AnunciarPleno();
+    if (!fExtraAnunciado && z.NúmPalabra != reglas::PalabraComodín && !Pasa200()) AnunciarPleno();
 }
 
 void frmPuntos::AnunciarPleno() {
@@ -94,11 +90,12 @@ void frmPuntos::AnunciarPleno() {
 
 /// Every third pleno brings a joker, up to the 27th. Another message of the same word takes the place of its own.
 void frmPuntos::ComodínPlenos() {
-    constexpr int kLastJoker = 27;
-    if (z.comodines == kMaxJokers || z.plenos % 3 != 0 || z.plenos > kLastJoker) return;
+    if (z.comodines == reglas::MáximoComodines || z.plenos % reglas::PlenosPorComodín != 0 ||
+        z.plenos > reglas::ÚltimoPlenoComodín)
+        return;
     DarComodín(z);
-    if (z.NúmPalabra == kJokerWord || Pasa200()) return;
-    const bool first = z.plenos == 3;
+    if (z.NúmPalabra == reglas::PalabraComodín || Pasa200()) return;
+    const bool first = z.plenos == reglas::PlenosPorComodín;
     if (z.plural) {
         z.Label5.Caption = first ? u"¡Estupendo, habéis conseguido un comodín extra!"
                                  : u"¡Estupendo, habéis conseguido otro comodín extra!";
@@ -118,7 +115,7 @@ void frmPuntos::Comodín200() {
 
 void frmPuntos::MostrarBonificación(bool visible) {
     for (int i = 1; i <= Bonificación; ++i) picBonifi(i).Visible = visible;
-    if (Bonificación == kPlenoBonus) Label5.Visible = visible;
+    if (Bonificación == reglas::BonificaciónPleno) Label5.Visible = visible;
 }
 
 void frmPuntos::Parpadear() {

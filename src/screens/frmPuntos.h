@@ -1,5 +1,6 @@
 #pragma once
 
+#include "game/Reglas.h"
 #include "game/Zarpi.h"
 
 namespace juego {
@@ -41,7 +42,7 @@ private:
     void AnunciarPleno();
     void ComodínPlenos();
     void Comodín200();
-    bool Pasa200() const { return z.puntos > 200 && !f200; }
+    bool Pasa200() const { return z.puntos > reglas::ZarpisComodín && !f200; }
     void MostrarBonificación(bool visible);
     void Parpadear();
 

@@ -1,7 +1,7 @@
 #include "shell/Juego.h"
 
 #include "engine/Elecciones.h"
-#include "shell/PáginaWeb.h"
+#include "shell/PaginaWeb.h"
 #include "shell/Teclado.h"
 #include "stage/Escena.h"
 #include "store/Guardadas.h"

@@ -20,7 +20,7 @@
 #include "store/frmCuadro.h"
 #include "store/frmNombre.h"
 #include "store/frmReanudar.h"
-#include "store/frmÚltimas.h"
+#include "store/frmUltimas.h"
 
 namespace juego {
 

@@ -1,6 +1,6 @@
 #include "shell/frmAcerca.h"
 
-#include "shell/PáginaWeb.h"
+#include "shell/PaginaWeb.h"
 #include "sound/Sonido.h"
 
 namespace juego {

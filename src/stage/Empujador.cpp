@@ -3,6 +3,7 @@
 #include <array>
 
 #include "game/Modos.h"
+#include "game/Reglas.h"
 #include "sound/Sonido.h"
 #include "stage/Escena.h"
 #include "store/Guardadas.h"
@@ -13,9 +14,6 @@ namespace {
 
 constexpr int kStep = 1140;
 constexpr int kEdgeStep = 250;  ///< the sixth miss stops short of the edge by this; the fall takes it back
-constexpr int kEdge = 6;
-constexpr int kFall = 7;
-constexpr int kLastFall = 4;
 constexpr int kTeeteringTop = 60;
 constexpr int kHeroTop = -60;
 
@@ -29,9 +27,9 @@ void Empujador::operator()() {
     z.fGuardar = false;
     if (!ends) {
         Fallar();
-        if (z.Fallo == kFall) Caer();
+        if (z.Fallo == reglas::FallosCaída) Caer();
     }
-    const bool over = ends || z.Fallo == kFall;
+    const bool over = ends || z.Fallo == reglas::FallosCaída;
     if (over && !Terminar()) return;
     AnimarComodín();
 }
@@ -39,22 +37,22 @@ void Empujador::operator()() {
 void Empujador::Fallar() {
     ++z.Fallo;
     z.Label5.Caption = u"Mal.";
-    if (z.Fallo == kFall) {
+    if (z.Fallo == reglas::FallosCaída) {
         for (Label* label : {&z.lblMensajeTiem, &z.lblTiempo, &z.Label8, &z.lblNombre}) label->Visible = false;
     }
     z.lblError(z.Fallo).Visible = true;
     z.lblError(z.Fallo).Caption = z.Letra;
     Avanzar(kStep);
     if (const int pose = kPoseOfMiss.at(static_cast<std::size_t>(z.Fallo)); pose != 0) z.picZarpi.Picture = Pose(pose);
-    if (z.Fallo == kEdge - 1) z.picZarpi.Top = kTeeteringTop;
-    if (z.Fallo == kEdge) {
+    if (z.Fallo == reglas::FallosBorde - 1) z.picZarpi.Top = kTeeteringTop;
+    if (z.Fallo == reglas::FallosBorde) {
         Avanzar(-kEdgeStep);
         comentario.ComentarioAngustia();
         z.lblComentAngus.Visible = true;
         z.lblComentAngus.Caption = z.picZarpi.ToolTipText;
         z.AngustiaZarpi1.Start();
     }
-    if (z.Fallo == kFall) z.picZarpi.ToolTipText.clear();
+    if (z.Fallo == reglas::FallosCaída) z.picZarpi.ToolTipText.clear();
 }
 
 void Empujador::Avanzar(int step) {
@@ -86,7 +84,7 @@ void Empujador::Caer() {
 /// Closes the game and gives the menus back. False after the fourth fall, which keeps them closed for good.
 bool Empujador::Terminar() {
     z.fFinPartida = true;
-    if (z.Caídas == kLastFall) {
+    if (z.Caídas == reglas::CaídasEnfado) {
         secuencias.FinPorEnfado();
         return false;
     }
@@ -101,7 +99,7 @@ bool Empujador::Terminar() {
 }
 
 void Empujador::AnimarComodín() {
-    if (z.Fallo != kEdge || z.comodines == 0 || z.fTiempoAgotado || z.fVictoria) return;
+    if (z.Fallo != reglas::FallosBorde || z.comodines == 0 || z.fTiempoAgotado || z.fVictoria) return;
     z.Label5.Caption = z.plural ? u"¡Usad un comodín!" : u"¡Usa un comodín!";
     Sonar(media, z, z.sonComodín, sonidos::Comodín);
 }

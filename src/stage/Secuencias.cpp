@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/Reglas.h"
 #include "stage/Escena.h"
 
 namespace juego {
@@ -11,7 +12,6 @@ namespace {
 constexpr int kJumps = 4;
 constexpr int kAnguishRounds = 4;
 constexpr int kAnguishTop = -90;
-constexpr int kLastFall = 4;
 
 /// A frame that only changes the pose on the ledge: the timer that shows it, the pose, the timer that follows.
 struct FotogramaZarpi {
@@ -150,7 +150,7 @@ void Secuencias::Incorporarse() {
     comentario.ComentarioCaída();
     z.lblComentCaída.Caption = z.Picture1.ToolTipText;
     z.CaídaZarpi5.Stop();
-    if (z.Caídas == kLastFall) {
+    if (z.Caídas == reglas::CaídasEnfado) {
         z.Picture1.ToolTipText.clear();
         z.EnfadoZarpi1.Start();
     }

@@ -1,17 +1,13 @@
 #include "store/AnotarPartida.h"
 
 #include "game/Modos.h"
+#include "game/Reglas.h"
 #include "store/AvisoError.h"
 
 namespace juego {
 
-namespace {
-constexpr int kFirstNoted = 6;
-constexpr int kWon = 31;
-}  // namespace
-
 void AnotarPartida::operator()() {
-    if (z.NúmPalabra < kFirstNoted) return;
+    if (z.NúmPalabra < reglas::PrimeraAnotada) return;
     z.FechaPartida = FormatDate(clock.Today());
     z.TextoTiempo = TextoDeTiempo(z.Tiempo);
     if (!Anotar()) MostrarErrorAlFrente(z);
@@ -22,7 +18,7 @@ bool AnotarPartida::Anotar() {
     if (!count) return false;
     z.NúmPartidas = static_cast<Integer>(std::min(*count + 1, ArchivoÚltimas.Límite));
     return InsertarFila(files, ArchivoÚltimas, 1, *count,
-                        FilaÚltima{.Palabra = z.NúmPalabra == kWon ? u"FINAL" : SignedDecimal(z.NúmPalabra),
+                        FilaÚltima{.Palabra = z.NúmPalabra > reglas::Palabras ? u"FINAL" : SignedDecimal(z.NúmPalabra),
                                    .Nombre = z.Nombre,
                                    .puntos = SignedDecimal(z.puntos),
                                    .plenos = SignedDecimal(z.plenos),

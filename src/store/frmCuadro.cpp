@@ -1,6 +1,6 @@
 #include "store/frmCuadro.h"
 
-#include "game/Impresión.h"
+#include "game/Impresion.h"
 #include "game/Modos.h"
 #include "store/AvisoError.h"
 

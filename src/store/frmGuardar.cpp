@@ -25,17 +25,6 @@ frmGuardar::frmGuardar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& file
     cmdCancelar.Click = [this] { this->forms.Unload(*this); };
 }
 
-ButtonLook frmGuardar::Botón(TextView caption, int tabIndex, bool isDefault) {
-    ButtonLook look = PlateButton(caption, tabIndex);
-    look.Default = isDefault;
-    look.Cancel = !isDefault;
-    return look;
-}
-
-LabelLook frmGuardar::Rótulo(TextView caption) {
-    return {.Caption = Text(caption), .FontSize = 9.75, .FontBold = true, .Align = Alignment::Left};
-}
-
 void frmGuardar::cmdGuardar_Click() {
     z.Contraseña = txtContraseña.Text;
     if (!ContraseñaVálida()) return;

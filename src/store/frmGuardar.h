@@ -19,22 +19,20 @@ public:
     frmGuardar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& files, const Clock& clock, ÍndicesPalabras índices,
                std::function<void()> terminar);
 
-    CommandButton cmdGuardar{*this, "cmdGuardar", {510, 2490, 1425, 405}, Botón(u"GUARDAR", 3, true)};
-    CommandButton cmdCancelar{*this, "cmdCancelar", {2670, 2490, 1425, 405}, Botón(u"CANCELAR", 4, false)};
+    CommandButton cmdGuardar{*this, "cmdGuardar", {510, 2490, 1425, 405}, DefaultButton(u"GUARDAR", 3)};
+    CommandButton cmdCancelar{*this, "cmdCancelar", {2670, 2490, 1425, 405}, CancelButton(4)};
     TextBox txtFecha{*this, "txtFecha", {1860, 210, 2115, 465}, {.Locked = true, .Enabled = false}};
     TextBox txtContraseña{
         *this, "txtContraseña", {1860, 960, 2115, 420}, {.MaxLength = 10, .Password = true, .TabIndex = 1}};
     TextBox txtContrarep{
         *this, "txtContrarep", {1860, 1650, 2115, 420}, {.MaxLength = 10, .Password = true, .TabIndex = 2}};
-    Label Label1{*this, "Label1", {630, 330, 1125, 225}, Rótulo(u"Fecha:")};
-    Label Label2{*this, "Label2", {300, 1050, 1455, 255}, Rótulo(u"Contraseña:")};
-    Label Label3{*this, "Label3", {300, 1590, 1455, 555}, Rótulo(u"Repite la contraseña:")};
+    Label Label1{*this, "Label1", {630, 330, 1125, 225}, FieldName(u"Fecha:")};
+    Label Label2{*this, "Label2", {300, 1050, 1455, 255}, FieldName(u"Contraseña:")};
+    Label Label3{*this, "Label3", {300, 1590, 1455, 555}, FieldName(u"Repite la contraseña:")};
     Shape shpAceptar{*this, "shpAceptar", {420, 2430, 1605, 525}, ButtonPlate()};
     Shape shpCancelar{*this, "shpCancelar", {2580, 2430, 1605, 525}, ButtonPlate()};
 
 private:
-    static ButtonLook Botón(TextView caption, int tabIndex, bool isDefault);
-    static LabelLook Rótulo(TextView caption);
     void cmdGuardar_Click();
     bool ContraseñaVálida();
     void Rechazar(TextView reason, TextBox& box);

@@ -3,14 +3,10 @@
 #include <algorithm>
 
 #include "game/Modos.h"
+#include "game/Reglas.h"
 #include "store/Guardadas.h"
 
 namespace juego {
-
-namespace {
-constexpr Integer kMaxJokers = 10;
-constexpr int kWords = 30;
-}  // namespace
 
 frmReanudar::frmReanudar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& files, ÍndicesPalabras índices,
                          AccionesReanudar acciones)
@@ -32,25 +28,6 @@ frmReanudar::frmReanudar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& fi
     txtContraseña.Click = [this] { txtContraseña.Text.clear(); };
     cmdReanudar.Click = [this] { cmdReanudar_Click(); };
     cmdCancelar.Click = [this] { this->forms.Unload(*this); };
-}
-
-ButtonLook frmReanudar::Botón(TextView caption, int tabIndex, bool isDefault) {
-    ButtonLook look = PlateButton(caption, tabIndex);
-    look.Default = isDefault;
-    look.Cancel = !isDefault;
-    return look;
-}
-
-LabelLook frmReanudar::Rótulo(TextView caption) {
-    return {.Caption = Text(caption), .FontSize = 9.75, .FontBold = true};
-}
-
-LabelLook frmReanudar::Valor() {
-    return ValueBox(u"", FontName::MSSansSerif, 12, true, White);
-}
-
-LabelLook frmReanudar::Cifra() {
-    return ValueBox(u"", FontName::MSSansSerif, 18, true, White);
 }
 
 void frmReanudar::Form_Load() {
@@ -96,7 +73,7 @@ void frmReanudar::Tomar(const PartidaGuardada& game) {
     z.Tiempo = game.Tiempo;
     z.puntos = game.puntos;
     z.plenos = game.plenos;
-    z.comodines = std::min(game.comodines, kMaxJokers);
+    z.comodines = static_cast<Integer>(std::min<int>(game.comodines, reglas::MáximoComodines));
     z.Nombre = game.Nombre;
     z.Fecha = game.Fecha;
     z.Contraseña = Trim(game.Contraseña);
@@ -134,7 +111,7 @@ void frmReanudar::cmdReanudar_Click() {
 
 bool frmReanudar::ContraseñaCorrecta() {
     const bool empty = txtContraseña.Text.empty();
-    const bool playable = PartidaElegida > 0 && z.NúmPalabra >= 1 && z.NúmPalabra <= kWords;
+    const bool playable = PartidaElegida > 0 && z.NúmPalabra >= 1 && z.NúmPalabra <= reglas::Palabras;
     if (!empty && playable && Trim(txtContraseña.Text) == z.Contraseña) return true;
     dialogs.Beep();
     dialogs.MsgBox(empty ? u"Escribe la contraseña." : u"La contraseña no es correcta.", u"Contraseña");

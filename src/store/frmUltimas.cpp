@@ -1,6 +1,6 @@
-#include "store/frmÚltimas.h"
+#include "store/frmUltimas.h"
 
-#include "game/Impresión.h"
+#include "game/Impresion.h"
 #include "game/Modos.h"
 #include "store/AvisoError.h"
 
