@@ -46,6 +46,7 @@ def pictures() -> Iterator[Picture]:
             yield Picture(f"game/{name}", lambda n=name: hero(n), ".bmp", ".png")
     yield Picture("forms/falling", lambda: hero("falling"), ".png", ".png")
     yield Picture("forms/ground", lambda: hero("Zarpi8"), ".png", ".png")
+    yield Picture("forms/standing", lambda: hero("Zarpi1"), ".png", ".png")
     yield Picture("forms/small", lambda: hero("small", ""), ".png", ".png")
     for number in STATIONS:
         yield Picture(f"forms/fondo{number}", lambda n=number: background(n), ".jpg", ".jpg")
