@@ -5,7 +5,7 @@
 #include <QIcon>
 #include <QScreen>
 #include <algorithm>
-#include <ranges>
+#include <utility>
 
 #include "platform/desktop/Colors.h"
 #include "platform/desktop/Strings.h"
@@ -19,6 +19,11 @@ Qt::WindowFlags FlagsOf(const Form& form, bool modal) {
                                   Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
     return frame | (modal ? Qt::Dialog : Qt::Window) |
            (form.MinButton ? Qt::WindowMinimizeButtonHint : Qt::WindowFlags());
+}
+
+std::vector<Control*> BackToFront(const Form& form) {
+    const auto controls = form.Controls();
+    return {controls.rbegin(), controls.rend()};
 }
 
 }  // namespace
@@ -42,8 +47,8 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, QWidget* owner, bool 
 FormWindow::~FormWindow() = default;
 
 void FormWindow::MakeViews() {
-    layers_.assign(form_.Controls().begin(), form_.Controls().end());
-    for (Control* control : layers_ | std::views::reverse) {
+    layers_ = BackToFront(form_);
+    for (Control* control : layers_) {
         if (auto view = MakeView(toolkit_, *control, client_)) views_.emplace(control, std::move(view));
     }
     SetTabOrder();
@@ -124,16 +129,15 @@ void FormWindow::SetPlace() {
 /// one.
 void FormWindow::RefreshLayers() {
     const auto now = form_.Controls();
-    if (std::ranges::equal(now, layers_)) return;
-    auto kept = now.rbegin();
-    for (Control* control : layers_ | std::views::reverse) {
-        if (kept != now.rend() && *kept == control) ++kept;
+    if (std::equal(now.rbegin(), now.rend(), layers_.begin(), layers_.end())) return;
+    const std::vector<Control*> before = std::exchange(layers_, BackToFront(form_));
+    auto kept = layers_.begin();
+    for (const Control* control : before) {
+        if (kept != layers_.end() && *kept == control) ++kept;
     }
-    for (; kept != now.rend(); ++kept) {
-        const auto view = views_.find(*kept);
-        if (view != views_.end()) view->second->Widget().raise();
+    for (; kept != layers_.end(); ++kept) {
+        if (const auto view = views_.find(*kept); view != views_.end()) view->second->Widget().raise();
     }
-    layers_.assign(now.begin(), now.end());
 }
 
 void FormWindow::RefreshFocus() {

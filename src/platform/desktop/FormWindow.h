@@ -44,7 +44,7 @@ private:
     KeyFilter& keys_;
     std::unique_ptr<MenuView> menu_;
     std::map<const Control*, std::unique_ptr<View>> views_;
-    std::vector<Control*> layers_;
+    std::vector<Control*> layers_;  // from back to front, as the widgets stand
     std::optional<FormLook> shown_;
 };
 

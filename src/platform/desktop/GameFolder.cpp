@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <array>
 
 namespace platform::desktop {
@@ -20,28 +21,23 @@ constexpr std::array<const char*, 7> kCounters = {"Ultimo.dat", "UltPart.dat", "
 constexpr const char* kZero = " 0 \r\n";
 
 bool HoldsTheGame(const QString& folder) {
-    for (const char* mark : kMarks) {
-        if (!QFile::exists(folder + '/' + mark)) return false;
-    }
-    return true;
+    return std::ranges::all_of(kMarks, [&folder](const char* mark) { return QFile::exists(folder + '/' + mark); });
 }
 
 bool Copy(const QString& from, const QString& into) {
     const auto files = QDir(from).entryInfoList(QDir::Files);
-    for (const QFileInfo& file : files) {
+    return std::ranges::all_of(files, [&into](const QFileInfo& file) {
         const QString copy = into + '/' + file.fileName();
-        if (!QFile::copy(file.filePath(), copy)) return false;
-        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    }
-    return true;
+        return QFile::copy(file.filePath(), copy) &&
+               QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    });
 }
 
 bool WriteCounters(const QString& folder) {
-    for (const char* counter : kCounters) {
+    return std::ranges::all_of(kCounters, [&folder](const char* counter) {
         QFile file(folder + '/' + counter);
-        if (!file.open(QIODevice::WriteOnly) || file.write(kZero) < 0) return false;
-    }
-    return true;
+        return file.open(QIODevice::WriteOnly) && file.write(kZero) >= 0;
+    });
 }
 
 /// Makes the player's folder out of the shared one. It is put together aside and gets its name when it is complete: a

@@ -3,6 +3,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <set>
 
 namespace platform::desktop {
 
@@ -16,7 +17,7 @@ class Track {
 public:
     explicit Track(QByteArrayView bytes) : bytes_(bytes) {}
 
-    /// Tells `onProgram(channel, program)` and `onNote(channel)`.
+    /// Tells `onProgram(channel, program)` and `onNote(channel, note)`.
     template <class OnProgram, class OnNote>
     void Read(OnProgram onProgram, OnNote onNote) {
         while (at_ < bytes_.size()) {
@@ -27,7 +28,10 @@ public:
                 case 0xC0: onProgram(channel, Byte() & 0x7F); break;
                 case 0xD0: Byte(); break;
                 case 0xF0: SkipLong(); break;
-                case 0x90: onNote(channel); [[fallthrough]];
+                case 0x90:
+                    onNote(channel, Byte() & 0x7F);
+                    Byte();  // how hard it is struck
+                    break;
                 default: at_ += 2;
             }
         }
@@ -63,27 +67,34 @@ private:
     int status_ = 0;
 };
 
+/// What a channel asks for in the whole piece.
+struct Channel {
+    std::set<int> programs;
+    MidiNotes notes;
+};
+
 }  // namespace
 
 MidiPrograms ProgramsOf(QByteArrayView midi) {
     constexpr qsizetype kHeader = 8;  // four letters and a length, before every block
-    std::array<std::set<int>, kChannels> asked;
-    std::set<int> sounding;
+    std::array<Channel, kChannels> channels;
+    const auto at = [&channels](int channel) -> Channel& { return channels.at(static_cast<std::size_t>(channel)); };
     while (midi.size() > kHeader) {
         const auto length = std::min<qsizetype>(qFromBigEndian<quint32>(midi.data() + 4), midi.size() - kHeader);
         if (midi.first(4) == "MTrk") {
             Track(midi.sliced(kHeader, length))
-                .Read(
-                    [&asked](int channel, int program) { asked.at(static_cast<std::size_t>(channel)).insert(program); },
-                    [&sounding](int channel) { sounding.insert(channel); });
+                .Read([&at](int channel, int program) { at(channel).programs.insert(program); },
+                      [&at](int channel, int note) { at(channel).notes.set(static_cast<std::size_t>(note)); });
         }
         midi = midi.sliced(kHeader + length);
     }
     MidiPrograms programs;
-    for (const int channel : sounding) {
-        std::set<int>& wanted = asked.at(static_cast<std::size_t>(channel));
-        if (wanted.empty()) wanted.insert(0);
-        (channel == kDrumChannel ? programs.drums : programs.melodic).merge(wanted);
+    for (int i = 0; i < kChannels; ++i) {
+        Channel& channel = at(i);
+        if (channel.notes.none()) continue;
+        if (channel.programs.empty()) channel.programs.insert(0);
+        auto& kind = i == kDrumChannel ? programs.drums : programs.melodic;
+        for (const int program : channel.programs) kind[program] |= channel.notes;
     }
     return programs;
 }

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <set>
+#include <bitset>
+#include <map>
 
 namespace platform::desktop {
 
-/// The instruments that a piece of music asks for, by their General MIDI numbers from 0 to 127.
+/// A set of keys, from 0 to 127.
+using MidiNotes = std::bitset<128>;
+
+/// The instruments that a piece of music asks for, by their General MIDI numbers from 0 to 127, and what they play.
 struct MidiPrograms {
-    std::set<int> melodic;
-    std::set<int> drums;  ///< kits, of the drum channel
+    std::map<int, MidiNotes> melodic;
+    std::map<int, MidiNotes> drums;  ///< kits, of the drum channel
 };
 
 /// The instruments of a MIDI file. Of a damaged file: those up to the damage.

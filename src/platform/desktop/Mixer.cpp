@@ -95,7 +95,7 @@ void Mixer::PlayMusic(const std::string& channel, const std::string& file) {
 }
 
 /// The mixer reads SoundFonts by name alone, and at once: the instruments of this piece stand in a file for that long.
-Mix_Music* Mixer::LoadMusic(const QByteArray& midi) {
+Mix_Music* Mixer::LoadMusic(const QByteArray& midi) const {
     QFile font(FindSoundFont());
     if (!font.open(QIODevice::ReadOnly)) return nullptr;
     const uchar* const bytes = font.map(0, font.size());

@@ -42,7 +42,7 @@ private:
     void PlaySound(const std::string& channel, const std::string& file);
     void Stop(const std::string& channel);
     void StopMusic();
-    Mix_Music* LoadMusic(const QByteArray& midi);
+    [[nodiscard]] Mix_Music* LoadMusic(const QByteArray& midi) const;
 
     MixerLibrary library_;
     bool loaded_ = false;

@@ -1,6 +1,7 @@
 #include "platform/desktop/Pictures.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPixmapCache>
@@ -17,6 +18,14 @@ constexpr int kLargestKept = 200'000;  // pixels
 struct Source {
     QString single;
     QString twice;
+};
+
+/// Reads by the format that the name tells: a search among all formats would load every one of them.
+class Reader : public QImageReader {
+public:
+    explicit Reader(const QString& path) : QImageReader(path, QFileInfo(path).suffix().toLatin1()) {
+        setAutoDetectImageFormat(false);
+    }
 };
 
 QString Existing(const QString& path) {
@@ -39,7 +48,7 @@ Source SourceOf(const PictureLook& look) {
 
 /// Reads a picture into `size` logical pixels, or into its own size at `factor` if `size` is not valid.
 QPixmap Read(const Source& source, QSize size, double factor) {
-    const QSize own = source.single.isEmpty() ? QSize() : QImageReader(source.single).size();
+    const QSize own = source.single.isEmpty() ? QSize() : Reader(source.single).size();
     if (!own.isValid()) return {};
     if (!size.isValid()) size = (QSizeF(own) * factor).toSize();
     const double ratio = qGuiApp->devicePixelRatio();
@@ -49,8 +58,8 @@ QPixmap Read(const Source& source, QSize size, double factor) {
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
 
     const bool wantsTwice = target.width() > own.width() && !source.twice.isEmpty();
-    QImage image(wantsTwice ? source.twice : source.single);
-    if (image.isNull()) image.load(source.single);
+    QImage image = Reader(wantsTwice ? source.twice : source.single).read();
+    if (image.isNull()) image = Reader(source.single).read();
     if (image.isNull()) return {};
     if (image.size() != target) image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     pixmap = QPixmap::fromImage(std::move(image));

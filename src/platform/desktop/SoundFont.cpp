@@ -62,20 +62,26 @@ std::map<QByteArray, QByteArrayView> BlocksOf(QByteArrayView font) {
     return blocks;
 }
 
-/// New numbers for old ones, from 0 up, in the order in which they are first asked for.
+/// New numbers for old ones, from 0 up, in the order in which they are first asked for, and the notes they are for.
 class Renumber {
 public:
-    quint16 operator()(quint16 old) {
+    quint16 operator()(quint16 old, const MidiNotes& notes) {
         const auto [it, isNew] = numbers_.try_emplace(old, static_cast<quint16>(order_.size()));
-        if (isNew) order_.push_back(old);
+        if (isNew) order_.push_back({old, {}});
+        order_.at(it->second).notes |= notes;
         return it->second;
     }
-    /// The old number behind a new one; the list may grow while it is gone through.
-    [[nodiscard]] const std::vector<quint16>& Order() const { return order_; }
+
+    struct Old {
+        quint16 number;
+        MidiNotes notes;
+    };
+    /// The old numbers in the order of the new ones.
+    [[nodiscard]] const std::vector<Old>& Order() const { return order_; }
 
 private:
     std::map<quint16, quint16> numbers_;
-    std::vector<quint16> order_;
+    std::vector<Old> order_;
 };
 
 /// How a font lays out presets, made of instruments, and instruments, made of samples: alike but for this.
@@ -110,13 +116,17 @@ public:
         return Slice(heads_, index * layout_.headSize, layout_.headSize);
     }
 
-    /// `links` turns the numbers of what it is made of into new ones.
-    void Copy(int index, Renumber& links) { CopyAs(Head(index).toByteArray(), index, links); }
-    /// The same under another head.
-    void CopyAs(const QByteArray& head, int index, Renumber& links) {
+    /// Copies what plays any of the notes, under a head of its own or another. `links` turns the numbers of what it is
+    /// made of into new ones.
+    void Copy(int index, const MidiNotes& notes, Renumber& links) {
+        CopyAs(Head(index).toByteArray(), index, notes, links);
+    }
+    void CopyAs(const QByteArray& head, int index, const MidiNotes& notes, Renumber& links) {
         AppendHead(head);
         const int end = Get<quint16>(Head(index + 1), layout_.zoneField);
-        for (int zone = Get<quint16>(Head(index), layout_.zoneField); zone < end; ++zone) CopyZone(zone, links);
+        for (int zone = Get<quint16>(Head(index), layout_.zoneField); zone < end; ++zone) {
+            if (Plays(zone, notes)) CopyZone(zone, notes, links);
+        }
     }
 
     /// The four blocks, each with the empty entry that ends it.
@@ -139,17 +149,31 @@ private:
         Append(newZones_, static_cast<quint16>(newGenerators_.size() / kGenerator));
         Append(newZones_, static_cast<quint16>(newModulators_.size() / kModulator));
     }
-    void CopyZone(int zone, Renumber& links) {
+    /// The generators of a zone: the first and the one behind the last.
+    [[nodiscard]] std::pair<int, int> Generators(int zone) const {
+        return {Get<quint16>(zones_, zone * kZone), Get<quint16>(zones_, (zone + 1) * kZone)};
+    }
+    [[nodiscard]] bool Plays(int zone, const MidiNotes& notes) const {
+        constexpr quint16 kKeyRange = 43;
+        const auto [first, end] = Generators(zone);
+        if (first >= end || Get<quint16>(generators_, first * kGenerator) != kKeyRange) return true;
+        const auto range = Get<quint16>(generators_, first * kGenerator + 2);
+        for (std::size_t note = range & 0xFFU; note <= (range >> 8U) && note < notes.size(); ++note) {
+            if (notes.test(note)) return true;
+        }
+        return false;
+    }
+    void CopyZone(int zone, const MidiNotes& notes, Renumber& links) {
         AppendZone();
         const int firstModulator = Get<quint16>(zones_, zone * kZone + 2);
         const int endModulator = Get<quint16>(zones_, (zone + 1) * kZone + 2);
         newModulators_ += Slice(modulators_, firstModulator * kModulator, (endModulator - firstModulator) * kModulator);
-        const int end = Get<quint16>(zones_, (zone + 1) * kZone);
-        for (int i = Get<quint16>(zones_, zone * kZone); i < end; ++i) {
+        const auto [first, end] = Generators(zone);
+        for (int i = first; i < end; ++i) {
             const auto kind = Get<quint16>(generators_, i * kGenerator);
             const auto amount = Get<quint16>(generators_, i * kGenerator + 2);
             Append(newGenerators_, kind);
-            Append(newGenerators_, kind == layout_.link ? links(amount) : amount);
+            Append(newGenerators_, kind == layout_.link ? links(amount, notes) : amount);
         }
     }
 
@@ -163,7 +187,7 @@ struct Samples {
     QByteArray heads;
     QByteArray sound;
 };
-Samples CopySamples(QByteArrayView heads, QByteArrayView sound, const std::vector<quint16>& numbers) {
+Samples CopySamples(QByteArrayView heads, QByteArrayView sound, const std::vector<Renumber::Old>& wanted) {
     constexpr qsizetype kHead = 46;
     constexpr qsizetype kStart = 20;  // where four positions follow each other: start, end, loop
     constexpr qsizetype kLink = 42;
@@ -172,7 +196,7 @@ Samples CopySamples(QByteArrayView heads, QByteArrayView sound, const std::vecto
     constexpr quint16 kNotHere = 0x8010;  // in a ROM, or compressed
     constexpr qsizetype kSilence = 46;    // that the format asks for behind each sample
     Samples copy;
-    for (const quint16 number : numbers) {
+    for (const auto& [number, notes] : wanted) {
         QByteArray head = Slice(heads, number * kHead, kHead).toByteArray();
         const auto start = Get<quint32>(head, kStart);
         const auto end = Get<quint32>(head, kStart + 4);
@@ -193,19 +217,22 @@ Samples CopySamples(QByteArrayView heads, QByteArrayView sound, const std::vecto
 
 constexpr qsizetype kProgramField = 20;  // of a preset's head; the bank follows
 
-bool IsWanted(QByteArrayView preset, const MidiPrograms& programs) {
+/// What a piece plays on a preset; null if it does not ask for it.
+const MidiNotes* NotesOn(QByteArrayView preset, const MidiPrograms& programs) {
     constexpr quint16 kDrumBank = 128;
-    const int program = Get<quint16>(preset, kProgramField);
     const auto bank = Get<quint16>(preset, kProgramField + 2);
-    return bank == kDrumBank ? programs.drums.contains(program) : bank == 0 && programs.melodic.contains(program);
+    if (bank != 0 && bank != kDrumBank) return nullptr;
+    const auto& kind = bank == 0 ? programs.melodic : programs.drums;
+    const auto wanted = kind.find(Get<quint16>(preset, kProgramField));
+    return wanted == kind.end() ? nullptr : &wanted->second;
 }
 
 /// A player takes it for granted that there is an instrument 0, on which every channel stands at first: the one at
 /// `index` stands in for it.
-void CopyAsFirst(Copier& presets, int index, Renumber& instruments) {
+void CopyAsFirst(Copier& presets, int index, const MidiNotes& notes, Renumber& instruments) {
     QByteArray head = presets.Head(index).toByteArray();
     Put(head, kProgramField, quint32{0});  // program and bank
-    presets.CopyAs(head, index, instruments);
+    presets.CopyAs(head, index, notes, instruments);
 }
 
 QByteArray Cut(QByteArrayView font, const MidiPrograms& programs) {
@@ -216,13 +243,14 @@ QByteArray Cut(QByteArrayView font, const MidiPrograms& programs) {
     Renumber usedSamples;
     int last = -1;
     for (int i = 0; i < presets.Count(); ++i) {
-        if (!IsWanted(presets.Head(i), programs)) continue;
-        presets.Copy(i, usedInstruments);
+        const MidiNotes* const notes = NotesOn(presets.Head(i), programs);
+        if (notes == nullptr) continue;
+        presets.Copy(i, *notes, usedInstruments);
         last = i;
     }
     if (last < 0) return {};
-    if (!programs.melodic.contains(0)) CopyAsFirst(presets, last, usedInstruments);
-    for (const quint16 number : usedInstruments.Order()) instruments.Copy(number, usedSamples);
+    if (!programs.melodic.contains(0)) CopyAsFirst(presets, last, {}, usedInstruments);
+    for (const auto& [number, notes] : usedInstruments.Order()) instruments.Copy(number, notes, usedSamples);
     const Samples samples = CopySamples(blocks.at("shdr"), blocks.at("smpl"), usedSamples.Order());
     return Block("RIFF",
                  "sfbk" + Block("LIST", blocks.at("INFO")) + Block("LIST", "sdta" + Block("smpl", samples.sound)) +

@@ -58,7 +58,7 @@ public:
         const platform::Place& place = element_;
         if (place.Visible) {
             if (place_ != place) SetPlace(place);
-            if (look_ != Look(element_)) SetLook(element_);
+            if (look_ != static_cast<const Look&>(element_)) SetLook(element_);
         }
         widget_.setVisible(place.Visible);
     }

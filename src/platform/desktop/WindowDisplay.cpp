@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QTimer>
 #include <cstdlib>
 
 namespace platform::desktop {
@@ -29,9 +28,10 @@ void WindowDisplay::Opened(Form& form, bool modal) {
     if (!hadWindow_) {
         // The window is up when what it has painted has left for the screen: after this round of the event loop.
         window->ClientArea().OnFirstPaint = [this] {
-            QTimer::singleShot(0, qApp, [this] {
+            const auto tell = [this] {
                 if (OnFirstWindow) OnFirstWindow();
-            });
+            };
+            QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
         };
     }
     hadWindow_ = true;
