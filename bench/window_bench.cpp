@@ -1,9 +1,10 @@
 // Measures a program's window from outside, on the X display at hand.
 //
-//   window-bench start PROGRAM     from exec to its first window mapped, milliseconds
-//   window-bench play PROGRAM      zarpi: from a key press to the changed pixel, CPU with and without a word in play,
-//                                  proportional memory with music playing
-//   window-bench memory PROGRAM    proportional memory of a window that does nothing
+//   window-bench start PROGRAM [ARGUMENT...]    from exec to its first window mapped, milliseconds
+//   window-bench play PROGRAM                   zarpi: from a key press to the changed pixel, CPU with and without a
+//   word in play,
+//                                               proportional memory with music playing
+//   window-bench memory PROGRAM [ARGUMENT...]   proportional memory of a window that does nothing
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -89,11 +90,11 @@ private:
 /// A program that runs as long as this lives.
 class Child {
 public:
-    explicit Child(const char* program) : pid_(fork()) {
+    explicit Child(char** program) : pid_(fork()) {
         if (pid_ != 0) return;
         const int nowhere = open("/dev/null", O_WRONLY);
         dup2(nowhere, STDERR_FILENO);
-        execl(program, program, nullptr);
+        execv(program[0], program);
         std::_Exit(127);
     }
     ~Child() {
@@ -111,7 +112,7 @@ public:
         }
         return -1;
     }
-    /// Share of one core used during a while, percent. Threads of the sound are counted apart if `mainOnly`.
+    /// Share of one core used during a while, percent.
     [[nodiscard]] double Cpu(std::chrono::seconds duration) const {
         const double before = CpuSeconds();
         std::this_thread::sleep_for(duration);
@@ -120,7 +121,7 @@ public:
 
 private:
     [[nodiscard]] double CpuSeconds() const {
-        // Nanoseconds on the CPU of the main thread, which is the game; the sound's own thread decodes music.
+        // Nanoseconds on the CPU of the main thread, which is the game; another one renders the music.
         std::ifstream file("/proc/" + std::to_string(pid_) + "/task/" + std::to_string(pid_) + "/schedstat");
         double nanoseconds = 0;
         file >> nanoseconds;
@@ -129,14 +130,14 @@ private:
     pid_t pid_;
 };
 
-double StartOnce(Desk& desk, const char* program) {
+double StartOnce(Desk& desk, char** program) {
     const auto start = Clock::now();
     const Child child(program);
     desk.WaitForWindow();
     return Milliseconds(Clock::now() - start);
 }
 
-void Start(const char* program) {
+void Start(char** program) {
     Desk desk;
     StartOnce(desk, program);
     std::vector<double> times;
@@ -144,7 +145,7 @@ void Start(const char* program) {
     std::printf("%-28s %8.1f ms\n", "exec to window mapped", Median(times));
 }
 
-void Memory(const char* program) {
+void Memory(char** program) {
     Desk desk;
     const Child child(program);
     desk.WaitForWindow();
@@ -162,7 +163,7 @@ double KeyToPixel(Desk& desk, Window window, KeySym key) {
     return Milliseconds(Clock::now() - start);
 }
 
-void Play(const char* program) {
+void Play(char** program) {
     std::vector<double> times;
     double idle = 0;
     double playing = 0;
@@ -194,17 +195,17 @@ void Play(const char* program) {
         }
     }
     std::printf("%-28s %8.2f ms\n", "key press to changed pixel", Median(times));
-    std::printf("%-28s %8.3f %%\n", "CPU without a word in play", idle);
-    std::printf("%-28s %8.3f %%\n", "CPU with a word in play", playing);
+    std::printf("%-28s %8.3f %%\n", "CPU, no word in play", idle);
+    std::printf("%-28s %8.3f %%\n", "CPU, a word in play", playing);
     std::printf("%-28s %8.1f MiB\n", "memory (PSS), music playing", memory);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) return EXIT_FAILURE;
+    if (argc < 3) return EXIT_FAILURE;
     const std::string what = argv[1];
-    if (what == "start") Start(argv[2]);
-    if (what == "memory") Memory(argv[2]);
-    if (what == "play") Play(argv[2]);
+    if (what == "start") Start(argv + 2);
+    if (what == "memory") Memory(argv + 2);
+    if (what == "play") Play(argv + 2);
 }

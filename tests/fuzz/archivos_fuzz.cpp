@@ -1,14 +1,14 @@
-// Fuzz target: arbitrary bytes as each of the stored files, through every dialog, a resume, saves and the ends of games.
-
-#include <fuzzer/FuzzedDataProvider.h>
+// Fuzz target: arbitrary bytes as each of the stored files, through every dialog, a resume, saves and the ends of
+// games.
 
 #include <array>
+#include <fuzzer/FuzzedDataProvider.h>
 
 #include "Jugador.h"
 
 namespace {
 
-constexpr std::array<const char*, 14> kFiles = {"Ultimo.dat", "Guardar.rnd", "UltPart.dat", "Part.rnd", "UltCeI.dat",
+constexpr std::array<const char*, 14> kFiles = {"Ultimo.dat", "Guardar.rnd", "UltPart.dat", "Part.rnd",   "UltCeI.dat",
                                                 "CeI.rnd",    "UltIyC.dat",  "IyC.rnd",     "UltCas.dat", "Cas.rnd",
                                                 "UltIng.dat", "Ingl.rnd",    "UltCoI.dat",  "CoI.rnd"};
 

@@ -123,6 +123,7 @@ TEST_F(Windows, FormsGoBackToTheirDesign) {
 TEST_F(Windows, KeysGoTheirWay) {
     screen.Press(KeyOf(u'ñ'));
     screen.Press(KeyOf(u'€'));
+    EXPECT_EQ(KeyOf(u'%').Code, KeyNone) << "a character is no arrow key";
     screen.Press(PlainKey(KeyLeft));
     screen.Press(ControlKey('A'));
     screen.Press(ControlKey('E'));

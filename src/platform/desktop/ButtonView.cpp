@@ -5,6 +5,10 @@
 
 namespace platform::desktop {
 
+namespace {
+constexpr int kMargin = 6;  ///< pixels at factor 1 that a frame takes from a caption, both sides
+}
+
 ButtonView::ButtonView(const Toolkit& toolkit, CommandButton& element, QWidget& client)
     : ElementView(toolkit, element, client) {
     TakeFocus(element.TabIndex);
@@ -14,8 +18,10 @@ ButtonView::ButtonView(const Toolkit& toolkit, CommandButton& element, QWidget& 
 
 void ButtonView::Apply(const ButtonLook& look) {
     if (!look.BackColor.IsNone()) widget_.setPalette(QPalette(ToQt(look.BackColor)));
-    widget_.setFont(toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold));
-    widget_.setText(ToQt(look.Caption).replace('&', "&&"));
+    const QString caption = ToQt(look.Caption);
+    const QFont font = toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold);
+    widget_.setFont(FittedFont(font, caption, widget_.size() - QSize(toolkit_.Scale.LineWidth(kMargin), 0)));
+    widget_.setText(QString(caption).replace('&', "&&"));
     widget_.setDefault(look.Default);
     widget_.setEnabled(look.Enabled);
 }

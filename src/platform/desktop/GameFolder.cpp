@@ -12,7 +12,7 @@ namespace platform::desktop {
 
 namespace {
 
-/// The files that tell a game folder.
+/// The files that tell a game folder; one is enough, so that a damaged one is played in and told.
 constexpr std::array<const char*, 2> kMarks = {"Zarpi1.bmp", "Ultimo.dat"};
 
 /// The counters of stored games and lists; the game reads them and never makes them itself.
@@ -21,7 +21,7 @@ constexpr std::array<const char*, 7> kCounters = {"Ultimo.dat", "UltPart.dat", "
 constexpr const char* kZero = " 0 \r\n";
 
 bool HoldsTheGame(const QString& folder) {
-    return std::ranges::all_of(kMarks, [&folder](const char* mark) { return QFile::exists(folder + '/' + mark); });
+    return std::ranges::any_of(kMarks, [&folder](const char* mark) { return QFile::exists(folder + '/' + mark); });
 }
 
 bool Copy(const QString& from, const QString& into) {

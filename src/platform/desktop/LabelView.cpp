@@ -19,9 +19,9 @@ void LabelWidget::SetLook(const LabelLook& look, const QFont& font, int lineWidt
     ink_ = ToQt(look.ForeColor);
     centred_ = look.Align == Alignment::Centre;
     border_ = look.BorderStyle == 0 ? 0 : lineWidth;
-    setFont(font);
     setTextFormat(Qt::PlainText);
     setText(ToQt(look.Caption));
+    setFont(FittedFont(font, text(), TextBox().size()));
     update();
 }
 

@@ -1,5 +1,6 @@
 #include "platform/desktop/Scale.h"
 
+#include <QFontMetrics>
 #include <QStringList>
 #include <array>
 #include <cmath>
@@ -51,6 +52,18 @@ QFont Scale::Font(FontName name, double points, bool bold) const {
     if (name == FontName::MSSansSerif) font.setStretch(kSansStretch);
     // Hinted in height only: crisp, and as wide at every factor and on every machine as the design has it.
     font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
+}
+
+QFont FittedFont(QFont font, const QString& text, QSize box) {
+    const int smallest = font.pixelSize() / 2;
+    const auto fits = [&font, &text, &box] {
+        const QFontMetrics metrics(font);
+        const QSize size = metrics.boundingRect(QRect(QPoint(), box), Qt::TextWordWrap, text).size();
+        const bool isLine = size.height() < 2 * metrics.height();
+        return size.width() <= box.width() && (isLine || size.height() <= box.height());
+    };
+    while (font.pixelSize() > smallest && !fits()) font.setPixelSize(font.pixelSize() - 1);
     return font;
 }
 
