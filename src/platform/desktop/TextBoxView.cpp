@@ -43,6 +43,7 @@ TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& clie
     : ElementView(toolkit, element, client) {
     TakeFocus(element.TabIndex);
     widget_.setValidator(new BoxValidator(element, &widget_));
+    if (element.Password) widget_.setStyleSheet("lineedit-password-character: 42");  // "*"
     QObject::connect(&widget_, &QLineEdit::textEdited, &widget_,
                      [this](const QString& text) { toolkit_.Screen.Type(element_, FromQt(text)); });
 }

@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# The three windows that can be printed, printed for real into PDF files by way of the printer dialog; the texts of each
+# stand on its page as texts.
+#   impresion.sh GAME-FOLDER
+set -euo pipefail
+
+game=$(realpath "$1")
+if [ -z "${ZARPI_WINDOW:-}" ]; then
+    ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$1"
+fi
+
+folder=$(mktemp -d)
+export HOME=$folder/casa SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
+mkdir "$HOME"
+trap 'kill $program 2>/dev/null || true; rm -rf "$folder"' EXIT
+cp "$game"/* "$folder"
+for counter in Ultimo UltPart UltCeI UltIyC UltCas UltIng UltCoI; do printf ' 0 \r\n' >"$folder/$counter.dat"; done
+# A saved game at its last word, RODILLA, which one letter after another solves.
+printf ' 1 \r\n' >"$folder/Ultimo.dat"
+printf ' 30 3 0 60 190 14 9Bego\361a        28-12-2026 x          4    0     ' >"$folder/Guardar.rnd"
+cd "$folder"
+./zarpi 2>zarpi.log &
+program=$!
+
+press() { xdotool key --delay 60 "$@"; sleep 0.4; }
+window() { xdotool search --sync --onlyvisible --name "$1" >/dev/null; sleep 0.4; }
+fail() { echo "fallo: $1"; exit 1; }
+# Presses the button that has the focus, accepts the printer dialog, and looks for each text on the page.
+print_page() {
+    press space
+    sleep 1
+    press Return
+    for text in "$@"; do
+        found=
+        for _ in 1 2 3 4 5 6 7 8 9 10; do
+            pdftotext "$HOME/print.pdf" - 2>/dev/null | grep -q -- "$text" && found=yes && break
+            sleep 0.4
+        done
+        [ -n "$found" ] || fail "no page with $text"
+    done
+    [ "$(pdfinfo "$HOME/print.pdf" | awk '/^Pages/ {print $2}')" = 1 ] || fail "more than one page"
+    pdftoppm -r 30 -png "$HOME/print.pdf" "$HOME/page"
+    [ "$(convert "$HOME"/page*.png -format '%k' info:)" -gt 50 ] || fail "a page without pictures"
+    rm -f "$HOME"/print.pdf "$HOME"/page*.png
+}
+
+window 'pulsa una tecla'
+press a
+window 'Versión 1.5'
+press ctrl+r
+window 'Reanudar partida'
+xdotool type --delay 60 x
+press Return
+xdotool type --delay 80 rodila
+window 'Enhorabuena'
+press Return
+window 'PREMIO'
+for _ in 1 2 3 4 5 6 7 8 9 10; do press Left Left Left Left Left Left Left Left Left; done
+press Tab
+print_page 'Begoña' 'Castellano' 'IMPRIMIR'
+press Escape
+window 'Cuadro de honor'
+press Tab
+print_page 'CUADRO DE HONOR' 'Begoña' '205'
+sleep 0.5
+press ctrl+u
+window 'ltimas partidas'
+press Tab
+print_page 'FINAL' 'Begoña' 'Castellano'
+press ctrl+s
+echo "bien"
