@@ -15,13 +15,13 @@ from rig import draw_head
 
 WIDTH, HEIGHT = 703, 437
 SIZE = 31
-VERB = {1: "ha acertado", 2: "han acertado"}
+SECOND_LINE = {1: "ha acertado las 30 palabras", 2: "han acertado las 30 palabras"}
 # The gaps in which the window lays its text boxes: left, top, width, height.
 GAPS = {"name": (402, 104, 163, 35), "mode": (276, 214, 213, 35), "zarpis": (320, 264, 77, 35), "plenos": (184, 318, 39, 35),
         "date": (392, 322, 129, 35)}
 # What is written between them: x, baseline, which end x is, wording.
 WORDS = (
-    (392, 129, "end", "Zarpi certifica que"), (351.5, 186, "middle", "{verb} las 30 palabras"), (266, 239, "end", "del modo"),
+    (392, 129, "end", "Zarpi certifica que"), (351.5, 186, "middle", "{second}"), (266, 239, "end", "del modo"),
     (310, 290, "end", "consiguiendo"), (407, 290, "start", "zarpis"), (174, 346, "end", "y"), (307.5, 346, "middle", "plenos, el día"),
     (351.5, 398, "middle", "¡Enhorabuena!"),
 )
@@ -41,7 +41,7 @@ def diploma(players: int) -> Ink:
     _title(ink)
     for x, y, anchor, words in WORDS:
         size = 40 if words.startswith("¡") else SIZE
-        _text(ink, x, y, anchor, size, "#8f1d2c" if size > SIZE else "#33241a", words.format(verb=VERB[players]))
+        _text(ink, x, y, anchor, size, "#8f1d2c" if size > SIZE else "#33241a", words.format(second=SECOND_LINE[players]))
     for left, top, width, height in GAPS.values():
         ink.raw(f'<path d="M{left - 2} {top + height + 2.5}h{width + 4}" stroke="{GOLD.shade}" stroke-width="1.4" stroke-dasharray="1 3" stroke-linecap="round"/>')
     _seal(ink, 598, 360)

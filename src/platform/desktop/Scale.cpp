@@ -56,6 +56,7 @@ QFont Scale::Font(FontName name, double points, bool bold) const {
 }
 
 QFont FittedFont(QFont font, const QString& text, QSize box) {
+    if (text.size() < 2) return font;
     const int smallest = font.pixelSize() / 2;
     const auto fits = [&font, &text, &box] {
         const QFontMetrics metrics(font);

@@ -32,7 +32,7 @@ private:
 };
 
 /// The font, as much smaller as it takes for a text to fit into a box, down to half its size. A single line may be
-/// higher than the box: then only its empty margins are outside.
+/// higher than the box, and a single letter wider: then only empty margins are outside.
 QFont FittedFont(QFont font, const QString& text, QSize box);
 
 }  // namespace platform::desktop
