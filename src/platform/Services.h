@@ -125,7 +125,7 @@ public:
     virtual bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) = 0;
     /// Replaces the content in one step: at any moment the file holds the old content or the new. False on failure.
     virtual bool Replace(std::string_view name, std::string_view content) = 0;
-    /// Removes a file; one that is not there is no failure.
+    /// Removes a file; that there is none of this name is no failure.
     virtual bool Remove(std::string_view name) = 0;
 };
 

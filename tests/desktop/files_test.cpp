@@ -3,6 +3,11 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 #include "platform/desktop/DurableFiles.h"
 #include "platform/desktop/GameFolder.h"
 
@@ -43,9 +48,28 @@ TEST_F(Folder, TellsFailures) {
     EXPECT_EQ(files.ReadAt("Ultimo.dat", 0, 1), std::nullopt);
     EXPECT_FALSE(files.WriteAt("Ultimo.dat", 0, "x"));
     EXPECT_FALSE(files.Replace("Ultimo.dat", "x"));
-    EXPECT_FALSE(files.Remove("Ultimo.dat"));
+    EXPECT_TRUE(files.Remove("Ultimo.dat")) << "there is no such file";
+    EXPECT_TRUE(QDir("Ultimo.dat").exists());
     EXPECT_FALSE(files.WriteAt("CeI.rnd", -1, "x"));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(Folder, AFullDiskTakesNothingAway) {
+    ASSERT_TRUE(files.Replace("Ultimo.dat", " 12 \r\n"));
+    ASSERT_TRUE(files.WriteAt("CeI.rnd", 0, "0123456789"));
+    // No file can grow beyond a few bytes, as on a disk that is full.
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, SIG_IGN);
+    const rlimit full{2, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    EXPECT_FALSE(files.Replace("Ultimo.dat", " 13 \r\n"));
+    EXPECT_FALSE(files.WriteAt("CeI.rnd", 10, "x"));
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(files.Read("Ultimo.dat"), " 12 \r\n");
+    EXPECT_EQ(files.Read("CeI.rnd"), "0123456789");
+}
+#endif
 
 TEST_F(Folder, AnInstalledGameFurnishesThePlayersFolderOnce) {
     QDir().mkdir("share");

@@ -77,16 +77,19 @@ bool DurableFiles::Replace(std::string_view name, std::string_view content) {
     // Written beside, brought to the disk, and renamed over the old content.
     QSaveFile file(ToQt(name));
     const auto length = static_cast<qint64>(content.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), length) != length || !file.commit())
+    // Unbuffered: an error that only the last flush meets would go unnoticed, and an empty file take the place of the
+    // old.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(content.data(), length) != length ||
+        !file.commit())
         return false;
     SyncFolder();
     return true;
 }
 
 bool DurableFiles::Remove(std::string_view name) {
-    QFile file(ToQt(name));
-    if (!file.exists()) return true;
-    if (!file.remove()) return false;
+    const QString path = ToQt(name);
+    if (!QFileInfo(path).isFile()) return true;
+    if (!QFile::remove(path)) return false;
     SyncFolder();
     return true;
 }

@@ -36,7 +36,7 @@ bool Copy(const QString& from, const QString& into) {
 bool WriteCounters(const QString& folder) {
     return std::ranges::all_of(kCounters, [&folder](const char* counter) {
         QFile file(folder + '/' + counter);
-        return file.open(QIODevice::WriteOnly) && file.write(kZero) >= 0;
+        return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(kZero) > 0;
     });
 }
 
