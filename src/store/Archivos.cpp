@@ -18,7 +18,9 @@ std::optional<int> LeerContador(platform::Files& files, const Par& par) {
 }
 
 bool EscribirContador(platform::Files& files, const Par& par, int count) {
-    return files.Replace(par.Contador, " " + std::to_string(count) + " \r\n");
+    std::string line(1, ' ');
+    line.append(std::to_string(count)).append(" \r\n");
+    return files.Replace(par.Contador, line);
 }
 
 }  // namespace juego

@@ -129,7 +129,7 @@ std::optional<Value> ReadLook(const Control& control, std::string_view name) {
 std::string Format(const Value& value) {
     if (const bool* truth = std::get_if<bool>(&value)) return *truth ? "True" : "False";
     if (const int* number = std::get_if<int>(&value)) return std::to_string(*number);
-    if (const Text* text = std::get_if<Text>(&value)) return '"' + ToUtf8(*text) + '"';
+    if (const Text* text = std::get_if<Text>(&value)) return ToUtf8(u'"' + *text + u'"');
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), std::get<double>(value)).ptr;
     return {digits.data(), end};
