@@ -6,7 +6,7 @@ set -euo pipefail
 
 game=$(realpath "$1")
 if [ -z "${ZARPI_WINDOW:-}" ]; then
-    ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24" "$0" "$1"
+    ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24 -noreset" "$0" "$1"
 fi
 
 folder=$(mktemp -d)
