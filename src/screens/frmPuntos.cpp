@@ -53,7 +53,6 @@ void frmPuntos::Form_Load() {
     Puntuar();
     Label2.Caption = u"Zarpis de bonificación: " + Decimal(Bonificación);
     Label4.Caption = Decimal(reglas::ZarpisPalabra + Bonificación);
-    fExtraAnunciado = false;
     for (int i = 1; i <= Bonificación; ++i) picBonifi(i).Visible = true;
     if (Bonificación > kBlinkAbove) Timer1.Start();
     if (Pasa200()) {

@@ -15,7 +15,6 @@ namespace {
 constexpr int kStep = 1140;
 constexpr int kEdgeStep = 250;  ///< the sixth miss stops short of the edge by this; the fall takes it back
 constexpr int kTeeteringTop = 60;
-constexpr int kHeroTop = -60;
 
 /// The pose that each miss brings; 0 leaves the one before.
 constexpr std::array<int, 8> kPoseOfMiss = {0, 2, 3, 2, 3, 5, 0, 0};
@@ -77,7 +76,7 @@ void Empujador::Caer() {
     z.lblComentAngus.Visible = false;
     z.CaídaZarpi1.Start();
     z.picZarpi.Picture = Pose(6);
-    z.picZarpi.Top = kHeroTop;
+    z.picZarpi.Top = TopeZarpi;
     anotar();
 }
 

@@ -9,7 +9,6 @@ namespace {
 constexpr Integer kPlateStart = 540;
 constexpr Integer kRodStart = 795;
 constexpr Integer kHeroStart = 1020;
-constexpr int kHeroTop = -60;
 constexpr int kFallTop = 1230;
 constexpr int kStandingPose = 1;
 constexpr int kTimeOutPose = 14;
@@ -36,7 +35,7 @@ void ReponerEscena(Zarpi& z) {
     z.IzqZarpi = kHeroStart;
     ColocarEmpujador(z);
     z.picZarpi.Picture = Pose(kStandingPose);
-    z.picZarpi.Top = kHeroTop;
+    z.picZarpi.Top = TopeZarpi;
     z.picZarpi.Visible = true;
 }
 
@@ -47,7 +46,7 @@ void ColocarEmpujador(Zarpi& z) {
 }
 
 void CaraTiempo(Zarpi& z) {
-    if (z.Fallo == kTeetering) z.picZarpi.Top = kHeroTop;
+    if (z.Fallo == kTeetering) z.picZarpi.Top = TopeZarpi;
     z.picZarpi.Picture = Pose(kTimeOutPose);
 }
 

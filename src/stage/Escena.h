@@ -5,6 +5,9 @@
 /// The hero's poses and the scenery.
 namespace juego {
 
+/// Top of the hero who stands on the ledge, twips.
+constexpr int TopeZarpi = -60;
+
 /// The bitmap of a pose, by its number.
 Text Pose(int number);
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <initializer_list>
+
 #include "game/Estilos.h"
+#include "platform/Form.h"
 
 /// The geometry that the two lists of ten rows share. Each list grows by its rows.
 namespace juego::filas {
@@ -18,6 +21,16 @@ inline LabelLook Cabecera(TextView caption) {
 inline std::pair<Place, LabelLook> Celda(int left, int width, int k) {
     return {{left, 2040 + AltoFila * (k - 1), width, 375, Hidden},
             ValueBox(u"", FontName::MSSansSerif, 12, true, White)};
+}
+
+/// Grows a list by its row k, from 1: the window, the plates and buttons below the table, the cells of the row.
+inline void AñadirFila(Form& list, int k, std::initializer_list<CommandButton*> buttons,
+                       std::initializer_list<Shape*> plates, std::initializer_list<ControlArray<Label, 10>*> columns) {
+    const int top = TopeBotones + AltoFila * k;
+    for (CommandButton* button : buttons) button->Top = top + 60;
+    for (Shape* plate : plates) plate->Top = top;
+    list.Height = Alto + AltoFila * k;
+    for (auto* column : columns) (*column)(k).Visible = true;
 }
 
 }  // namespace juego::filas

@@ -24,8 +24,6 @@ frmCuadro::frmCuadro(Zarpi& zarpi, Forms& forms, Files& files, Printer& printer)
 }
 
 void frmCuadro::Form_Load() {
-    TopeBotones = filas::TopeBotones;
-    AltoCuadro = filas::Alto;
     Label2.Caption = TextoModo(z.ModoHonor);
     if (!LeerFilas()) MostrarErrorAlFrente(z);
 }
@@ -35,7 +33,9 @@ bool frmCuadro::LeerFilas() {
     if (!count) return false;
     ArchivoRegistros<FilaHonor> rows(files, Archivo());
     for (int k = 1; k <= *count; ++k) {
-        AñadirFila(k);
+        filas::AñadirFila(*this, k, {&cmdAceptar, &cmdRestablecer, &cmdImprimir},
+                          {&shpAceptar, &shpRestablecer, &shpImprimir},
+                          {&lblZarpis, &lblNombre, &lblPlenos, &lblTiempo, &lblFecha});
         const auto row = rows.Leer(k);
         if (!row) return false;
         lblZarpis(k).Caption = Trim(row->puntos);
@@ -47,15 +47,6 @@ bool frmCuadro::LeerFilas() {
     cmdRestablecer.Visible = *count == LímiteFilas;
     shpRestablecer.Visible = *count == LímiteFilas;
     return true;
-}
-
-void frmCuadro::AñadirFila(int k) {
-    TopeBotones = static_cast<Integer>(TopeBotones + filas::AltoFila);
-    AltoCuadro = static_cast<Integer>(AltoCuadro + filas::AltoFila);
-    for (CommandButton* button : {&cmdAceptar, &cmdRestablecer, &cmdImprimir}) button->Top = TopeBotones + 60;
-    for (Shape* plate : {&shpAceptar, &shpRestablecer, &shpImprimir}) plate->Top = TopeBotones;
-    Height = AltoCuadro;
-    for (auto* column : {&lblZarpis, &lblNombre, &lblPlenos, &lblTiempo, &lblFecha}) (*column)(k).Visible = true;
 }
 
 void frmCuadro::cmdRestablecer_Click() {

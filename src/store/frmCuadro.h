@@ -36,7 +36,6 @@ public:
 private:
     void Form_Load();
     bool LeerFilas();
-    void AñadirFila(int k);
     void cmdRestablecer_Click();
     bool Restablecer();
     const Par& Archivo() const { return ArchivosHonor.at(static_cast<std::size_t>(z.ModoHonor - 1)); }
@@ -44,8 +43,6 @@ private:
     Zarpi& z;
     Forms& forms;
     Files& files;
-    Integer TopeBotones = 0;
-    Integer AltoCuadro = 0;
 };
 
 /// Enters a won game, with the date of the win, into the board of its mode. False when the files fail; then nothing

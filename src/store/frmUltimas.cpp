@@ -22,8 +22,6 @@ frmÚltimas::frmÚltimas(Zarpi& zarpi, Forms& forms, Files& files, Printer& prin
 }
 
 void frmÚltimas::Form_Load() {
-    TopeBotones = filas::TopeBotones;
-    AltoCuadro = filas::Alto;
     if (!LeerFilas()) MostrarErrorAlFrente(z);
 }
 
@@ -32,7 +30,8 @@ bool frmÚltimas::LeerFilas() {
     if (!count) return false;
     ArchivoRegistros<FilaÚltima> rows(files, ArchivoÚltimas);
     for (int k = 1; k <= *count; ++k) {
-        AñadirFila(k);
+        filas::AñadirFila(*this, k, {&cmdAceptar, &cmdImprimir}, {&shpAceptar, &shpImprimir},
+                          {&lblPalabra, &lblNombre, &lblZarpis, &lblPlenos, &lblModo, &lblTiempo, &lblFecha});
         const auto row = rows.Leer(k);
         if (!row) return false;
         lblPalabra(k).Caption = Trim(row->Palabra);
@@ -44,17 +43,6 @@ bool frmÚltimas::LeerFilas() {
         lblFecha(k).Caption = Trim(row->Fecha);
     }
     return true;
-}
-
-void frmÚltimas::AñadirFila(int k) {
-    TopeBotones = static_cast<Integer>(TopeBotones + filas::AltoFila);
-    AltoCuadro = static_cast<Integer>(AltoCuadro + filas::AltoFila);
-    for (CommandButton* button : {&cmdAceptar, &cmdImprimir}) button->Top = TopeBotones + 60;
-    for (Shape* plate : {&shpAceptar, &shpImprimir}) plate->Top = TopeBotones;
-    Height = AltoCuadro;
-    for (auto* column : {&lblPalabra, &lblNombre, &lblZarpis, &lblPlenos, &lblModo, &lblTiempo, &lblFecha}) {
-        (*column)(k).Visible = true;
-    }
 }
 
 }  // namespace juego

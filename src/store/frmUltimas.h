@@ -35,12 +35,9 @@ public:
 private:
     void Form_Load();
     bool LeerFilas();
-    void AñadirFila(int k);
 
     Zarpi& z;
     Files& files;
-    Integer TopeBotones = 0;
-    Integer AltoCuadro = 0;
 };
 
 }  // namespace juego

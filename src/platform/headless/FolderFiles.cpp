@@ -6,14 +6,9 @@
 
 namespace platform::headless {
 
-namespace {
-
 namespace fs = std::filesystem;
 
-/// Names carry accents as UTF-8 on every system.
-fs::path PathOf(std::string_view name) {
-    return {std::u8string(name.begin(), name.end())};
-}
+namespace {
 
 /// The file open for reading and writing, created when it is not there.
 std::fstream OpenRecordFile(const fs::path& path) {
@@ -24,6 +19,10 @@ std::fstream OpenRecordFile(const fs::path& path) {
 }
 
 }  // namespace
+
+fs::path PathOf(std::string_view name) {
+    return {std::u8string(name.begin(), name.end())};
+}
 
 std::optional<std::string> FolderFiles::Read(std::string_view name) {
     if (!fs::is_regular_file(PathOf(name))) return std::nullopt;

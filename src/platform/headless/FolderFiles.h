@@ -1,8 +1,13 @@
 #pragma once
 
+#include <filesystem>
+
 #include "platform/Services.h"
 
 namespace platform::headless {
+
+/// The path of a bare name, whose accents are UTF-8 on every system.
+std::filesystem::path PathOf(std::string_view name);
 
 /// The files of the current folder, by means of the standard library alone. It stores nothing for good against a power
 /// failure, as the contract of a real platform asks.

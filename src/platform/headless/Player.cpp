@@ -8,15 +8,13 @@
 #include <ostream>
 #include <sstream>
 
+#include "platform/headless/FolderFiles.h"
+
 namespace platform::headless {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path PathOf(std::string_view name) {
-    return {std::u8string(name.begin(), name.end())};
-}
 
 std::string_view TrimmedView(std::string_view text) {
     const auto first = text.find_first_not_of(" \t\r");
