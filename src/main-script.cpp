@@ -5,8 +5,8 @@
 #include <iostream>
 #include <string_view>
 
-#include "platform/headless/FolderFiles.h"
-#include "platform/headless/Player.h"
+#include "headless/FolderFiles.h"
+#include "headless/Player.h"
 #include "shell/Juego.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // zarpi: the game in its window.
 
-#include "platform/desktop/Desktop.h"
+#include "desktop/Desktop.h"
 #include "shell/Juego.h"
 
 int main(int argc, char** argv) {

@@ -25,7 +25,6 @@ void Comodines::lblComodín_Click(int index) {
         z.tmrComodín1.Start();
     } else {
         DesarmarComodín(z);
-        z.lblComodín(1).Visible = true;
     }
     PlaySound(media, z.sonTeclado, sonidos::Teclado);
     CallarZarpi(z);
@@ -35,9 +34,8 @@ void Comodines::lblLetra_Click(int index) {
     if (!z.fComodín) return;
     z.Letra = index <= z.LargoPalabra ? Text(1, z.PalabraClave.at(static_cast<std::size_t>(index - 1))) : Text();
     z.fAcierto = false;
-    if (letras.EsRepetida()) return;
+    if (letras.RechazarRepetida()) return;
     DesarmarComodín(z);
-    z.lblComodín(1).Visible = true;
     z.lblComodín(z.comodines).Visible = false;
     --z.comodines;
     letras.MarcarTecla();
@@ -49,6 +47,7 @@ void DesarmarComodín(Zarpi& z) {
     z.tmrComodín2.Stop();
     z.comod = 0;
     z.fComodín = false;
+    z.lblComodín(1).Visible = z.comodines > 0;
 }
 
 }  // namespace juego

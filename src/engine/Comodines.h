@@ -22,7 +22,7 @@ private:
     Letras& letras;
 };
 
-/// Stops the flashing and puts an armed joker back, with nothing spent. The box stays as it is seen now.
+/// Stops the flashing and puts an armed joker back, with nothing spent; its box is seen while there are jokers.
 void DesarmarComodín(Zarpi& zarpi);
 
 }  // namespace juego

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "game/Modos.h"
+#include "game/Reglas.h"
 #include "game/Teclas.h"
 #include "stage/Escena.h"
 
@@ -27,13 +28,13 @@ void CallarZarpi(Zarpi& z) {
     CallarCaída(z);
 }
 
-bool Letras::SeAdmite() {
-    z.ModoHonor = z.Modo;
+bool Letras::Admite() const {
     return z.VecesAngustia == 0 && !z.fFinPartida && !z.fComodín;
 }
 
 void Letras::Form_KeyPress(int keyAscii) {
-    if (!SeAdmite()) return;
+    z.ModoHonor = z.Modo;
+    if (!Admite()) return;
     const char16_t letter = LetterOf(keyAscii);
     if (letter == 0) return;
     z.Letra = Text(1, letter);
@@ -41,7 +42,8 @@ void Letras::Form_KeyPress(int keyAscii) {
 }
 
 void Letras::lblTecla_Click(int index) {
-    if (!SeAdmite()) return;
+    z.ModoHonor = z.Modo;
+    if (!Admite()) return;
     z.Letra = Text(1, TeclaDeÍndice(index).Letra);
     ProbarLetra();
 }
@@ -51,12 +53,12 @@ void Letras::ProbarLetra() {
     z.lblMensajeError.Visible = false;
     z.fAcierto = false;
     MarcarTecla();
-    if (EsRepetida()) return;
+    if (RechazarRepetida()) return;
     z.mnuGuardar.Enabled = false;
     Comprobar();
 }
 
-bool Letras::EsRepetida() {
+bool Letras::RechazarRepetida() {
     // All twenty entries are looked at: an empty letter, from a box beyond the word, equals an empty entry.
     const bool tried =
         std::find(z.LetrasIntentadas.begin() + 1, z.LetrasIntentadas.end(), z.Letra) != z.LetrasIntentadas.end();
@@ -91,8 +93,17 @@ void Letras::Descubrir(int first, int last) {
     z.picZarpi.ToolTipText.clear();
     ++z.NúmIntentadas;
     z.LetrasIntentadas.at(static_cast<std::size_t>(z.NúmIntentadas)) = z.Letra;
-    if (!z.fAcierto) empujador();
+    if (!z.fAcierto) Fallar();
     if (z.Aciertos == last - first + 1) Acertar();
+}
+
+void Letras::Fallar() {
+    empujador.Fallar();
+    if (z.Fallo == reglas::FallosCaída) {
+        fin.Caída();
+    } else {
+        empujador.AnimarComodín();
+    }
 }
 
 void Letras::Acertar() {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "game/Comodin.h"
+#include "game/Plural.h"
 #include "game/Reglas.h"
-#include "sound/Sonido.h"
 #include "stage/Escena.h"
-#include "store/Plural.h"
 
 namespace juego {
 
@@ -32,58 +32,45 @@ void MostrarComodines(Zarpi& z) {
     }
 }
 
-template <std::size_t N>
-void Vaciar(std::array<Text, N>& texts) {
-    for (Text& text : texts) text.clear();
-}
-
 }  // namespace
 
 void Partida::mnuNuevo_Click() {
+    z.Comenzar(EstadoPartida{.NúmNivel = 1, .comodines = reglas::ComodinesIniciales, .anónimo = z.Nombre});
     z.lblMenComienzo.Caption =
         u"Comienza a introducir letras hasta que aciertes la palabra clave. Usa los comodines (?) cuando lo desees.";
-    z.Alter = 0;
-    z.puntos = 0;
-    z.plenos = 0;
-    screens.Puntos.f200 = false;
-    z.anónimo = z.Nombre;
-    z.NúmNivel = 1;
-    z.NúmPalabra = 0;
-    z.comodines = reglas::ComodinesIniciales;
-    AbrirPartida();
+    AbrirTablero();
     z.picFondo(kFirstScene).Visible = true;
     SiguientePalabra();
     forms.ShowModal(screens.Nombre);
 }
 
 void Partida::NuevoReanudar() {
-    screens.Puntos.f200 = z.puntos > reglas::ZarpisComodín;
-    AbrirPartida();
-    z.plural = NombraVarios(z.Nombre);
+    z.Comenzar(
+        EstadoPartida{.NúmNivel = z.NúmNivel,
+                      .NúmPalabra = static_cast<Integer>(z.NúmPalabra - 1),  // the start of the word adds it again
+                      .puntos = z.puntos,
+                      .plenos = z.plenos,
+                      .comodines = z.comodines,
+                      .Alter = z.Alter,
+                      .anónimo = z.anónimo,
+                      .plural = NombraVarios(z.Nombre),
+                      .f200 = z.puntos > reglas::ZarpisComodín,
+                      .fReanudar = true,
+                      .fPrimerComentario = true});
+    AbrirTablero();
     z.lblMenComienzo.Visible = false;
     z.lblComentario.Visible = false;
     z.lblMensajeError.Visible = false;
-    SeleccionarFondo(z);
-    --z.NúmPalabra;
     z.lblNombre.Caption = Trim(z.Nombre);
-    z.fReanudar = true;
-    z.fPrimerComentario = true;
     SiguientePalabra();
 }
 
-/// What the start of a new game and that of a resumed one have in common.
-void Partida::AbrirPartida() {
+/// The window at the start of a game, new or resumed.
+void Partida::AbrirTablero() {
+    z.fFinPartida = false;
     RetirarCaída(z);
     CallarCaída(z);
     z.Label5.Caption.clear();
-    z.Traducción.clear();
-    z.plural = false;
-    z.VecesAngustia = 0;
-    z.fTiempoAgotado = false;
-    z.fFinPartida = false;
-    z.fVictoria = false;
-    z.NúmUsadas = 0;
-    Vaciar(z.PalabrasUsadas);
     z.lblPuntos.Caption = Decimal(z.puntos);
     z.lblPlenos.Caption = Decimal(z.plenos);
     for (Label* label : {&z.lblMensajeTiem, &z.lblTiempo, &z.Label8, &z.lblNombre}) label->Visible = true;
@@ -110,6 +97,8 @@ void Partida::SiguientePalabra() {
     }
     if (z.NúmPalabra >= reglas::PrimeraGuardable) z.mnuGuardar.Enabled = true;
     ComodínPalabra16();
+    // The tally still has to read the misses of the word before.
+    z.Comenzar(EstadoPalabra{.HoraPalabra = z.HoraPalabra, .Fallo = z.Fallo});
     VaciarTablero();
     ReponerEscena(z);
     SacarPalabra();
@@ -126,27 +115,27 @@ void Partida::SiguientePalabra() {
 }
 
 void Partida::VaciarTablero() {
-    z.Aciertos = 0;
-    z.NúmIntentadas = 0;
-    z.Traducción.clear();
     for (Label& key : z.lblTecla) {
         key.BorderStyle = 0;
         key.FontSize = kFreeSize;
     }
-    Vaciar(z.LetrasIntentadas);
     for (Shape& frame : z.shpRecuadro) frame.Visible = false;
     for (Label& box : z.lblLetra) box.Caption.clear();
 }
 
+/// In mode 5 the languages take turns; a resumed game comes back to the turn that was saved.
+void Partida::Alternar() {
+    if (z.fAlterna && !z.fReanudar) z.Alter = z.Alter == 1 ? 2 : 1;
+}
+
 /// The language of the word: the halves of mode 2 first, then the bounds of modes 1, 3 and 4, else by turns.
-bool Partida::EsCastellana() {
+bool Partida::EsCastellana() const {
     if (z.fInglésCaste) return z.NúmPalabra > kLastOfFirstHalf;
-    if (!z.fAlterna) return z.NúmPalabra < z.TopeCastellano;
-    if (!z.fReanudar) z.Alter = z.Alter == 1 ? 2 : 1;
-    return z.Alter == 1;
+    return z.fAlterna ? z.Alter == 1 : z.NúmPalabra < z.TopeCastellano;
 }
 
 void Partida::SacarPalabra() {
+    Alternar();
     const bool spanish = EsCastellana();
     if (spanish) {
         sorteo.SacarPalabraCastellano();
@@ -154,6 +143,7 @@ void Partida::SacarPalabra() {
     } else {
         sorteo.SacarPalabraInglés();
     }
+    música.Cambiar();
     z.lblTapa1.Visible = spanish;
     z.lblTapa2.Visible = !spanish;
 }
@@ -191,13 +181,11 @@ void Partida::MostrarPalabra(const Nivel& level) {
 /// The screens between two words: the briefing of a new level, then the tally of the word before. A resumed game has
 /// neither.
 void Partida::AbrirPalabra(bool firstOfLevel) {
-    if (z.fReanudar) {
-        z.fReanudar = false;
-        return;
-    }
-    if (firstOfLevel) forms.ShowModal(screens.Nivel);
+    const bool resumed = z.fReanudar;
+    z.fReanudar = false;
+    if (firstOfLevel && !resumed) forms.ShowModal(screens.Nivel);
     SeleccionarFondo(z);
-    if (z.NúmPalabra > 1) forms.ShowModal(screens.Puntos);
+    if (z.NúmPalabra > 1 && !resumed) forms.ShowModal(screens.Puntos);
 }
 
 void Partida::ComodínPalabra16() {

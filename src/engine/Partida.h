@@ -6,9 +6,7 @@
 #include "engine/Final.h"
 #include "game/Modos.h"
 #include "game/Zarpi.h"
-#include "screens/frmNivel.h"
-#include "screens/frmPuntos.h"
-#include "store/frmNombre.h"
+#include "sound/Sonido.h"
 #include "words/Sorteo.h"
 
 namespace juego {
@@ -16,20 +14,21 @@ namespace juego {
 /// The dialogs that the course of a game opens.
 struct PantallasPartida {
     Form& Nivel;
-    frmPuntos& Puntos;
+    Form& Puntos;
     Form& Nombre;
 };
 
 /// How a game begins, and how every word begins.
 class Partida {
 public:
-    Partida(Zarpi& zarpi, Forms& forms, Media& media, const Clock& clock, Sorteo& sorteo, Comentario& comentario,
-            Final& fin, PantallasPartida screens)
+    Partida(Zarpi& zarpi, Forms& forms, Media& media, const Clock& clock, Sorteo& sorteo, Música& música,
+            Comentario& comentario, Final& fin, PantallasPartida screens)
         : z(zarpi),
           forms(forms),
           media(media),
           clock(clock),
           sorteo(sorteo),
+          música(música),
           comentario(comentario),
           fin(fin),
           screens(screens) {}
@@ -42,10 +41,11 @@ public:
     void SiguientePalabra();
 
 private:
-    void AbrirPartida();
+    void AbrirTablero();
     void VaciarTablero();
     void SacarPalabra();
-    bool EsCastellana();
+    void Alternar();
+    [[nodiscard]] bool EsCastellana() const;
     void SinAcentos();
     void ColocarRecuadros();
     void MostrarPalabra(const Nivel& level);
@@ -57,6 +57,7 @@ private:
     Media& media;
     const Clock& clock;
     Sorteo& sorteo;
+    Música& música;
     Comentario& comentario;
     Final& fin;
     PantallasPartida screens;

@@ -1,8 +1,6 @@
 #include "engine/Reloj.h"
 
-#include "engine/Comodines.h"
 #include "sound/Sonido.h"
-#include "stage/Escena.h"
 
 namespace juego {
 
@@ -26,17 +24,7 @@ void Reloj::tmrTiempo_Timer() {
         z.Label5.Caption = u"¡Date prisa!";
         Sonar(media, z, z.sonPrisa, sonidos::Prisa);
     }
-    if (minutes == z.Tiempo) AgotarTiempo();
-}
-
-void Reloj::AgotarTiempo() {
-    z.fTiempoAgotado = true;
-    z.Label5.Caption = u"¡TIEMPO! La palabra clave es " + z.PalabraMensaje + z.Traducción + u" Fin de juego.";
-    CaraTiempo(z);
-    DesarmarComodín(z);
-    empujador();
-    anotar();
-    if (z.comodines > 0) z.lblComodín(1).Visible = true;
+    if (minutes == z.Tiempo) fin.TiempoAgotado();
 }
 
 }  // namespace juego

@@ -31,7 +31,6 @@ constexpr auto kCampos = std::to_array<Campo>({
     Campo{"Nombre", &Zarpi::Nombre},
     Campo{"último", &Zarpi::último},
     Campo{"fReanudar", &Zarpi::fReanudar},
-    Campo{"fGuardar", &Zarpi::fGuardar},
     Campo{"Sonido", &Zarpi::Sonido},
     Campo{"anónimo", &Zarpi::anónimo},
     Campo{"Caídas", &Zarpi::Caídas},
@@ -121,6 +120,8 @@ std::optional<Valor> Value(const std::array<Text, N>& field, int index) {
 
 std::optional<Valor> ValorDeCampo(const Zarpi& zarpi, std::string_view name) {
     const auto [base, index] = Split(name);
+    // A save ends the game within one event: its flag is never seen set.
+    if (base == "fGuardar") return Value(false, index);
     for (const Campo& campo : kCampos) {
         if (campo.Nombre != base) continue;
         return std::visit([&zarpi, i = index](auto member) { return Value(zarpi.*member, i); }, campo.Dónde);

@@ -1,96 +1,109 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 
 #include "game/VentanaZarpi.h"
+#include "platform/Integer.h"
 
 namespace juego {
-
-using Integer = std::int16_t;
 
 /// Strings counted from 1; entry 0 stays empty.
 template <std::size_t N>
 using Textos = std::array<Text, N + 1>;
 
-/// The game: its whole state, and the elements of its window. There is one, for as long as the program runs; every
-/// other window reads and assigns its fields directly.
-struct Zarpi : VentanaZarpi {
-    Integer NúmNivel = 0;      ///< level shown, 1 to 6
-    Integer NúmPalabra = 0;    ///< word in play, 1 to 30; 0 before the first, 31 once word 30 is completed
-    Integer puntos = 0;        ///< zarpis so far
-    Integer plenos = 0;        ///< words completed without a miss so far
-    Integer Tiempo = 60;       ///< minutes for a word: 1 to 4; 60 for no limit
-    Integer comodines = 0;     ///< jokers held, 0 to 10
-    Integer comod = 0;         ///< clicks on the joker since it was last idle: 0 idle, 1 armed
-    bool fComodín = false;     ///< a joker is armed
-    Integer ModoHonor = 1;     ///< mode of the honour board to show or to write
-    Integer Modo = 1;          ///< game mode, 1 to 5
-    Text Fecha;                ///< date of a saved game
-    Text Contraseña;           ///< password of a saved game
-    Text Nombre;               ///< the name as typed, not trimmed
-    Integer último = 0;        ///< how many games are stored
-    bool fReanudar = false;    ///< a resumed game is being set up
-    bool fGuardar = false;     ///< `Empujador` is to end the game for a save
-    Integer Sonido = 0;        ///< 0 sound on, 1 sound off
-    Text anónimo;              ///< the name when the new game was started
-    Integer Caídas = 0;        ///< falls in this run since the last win; the fourth ends all play
-    Integer Alter = 0;         ///< mode 5: language of the word in play, 1 Spanish, 2 English
-    Integer Fallo = 0;         ///< misses in the word; valid after it until the tally has read them
-    bool plural = false;       ///< `Nombre` names several players
-    bool fSalirError = false;  ///< a file error has been told; the word clock will end the program
-
-    std::int32_t HoraPalabra = 0;    ///< start of the word, seconds since midnight
-    bool fTiempoAgotado = false;     ///< the time limit of the word has run out
-    bool fDiezPalabras = false;      ///< levels have 10 words instead of 5
-    Integer TopeCastellano = 16;     ///< outside modes 2 and 5, words below this number are Spanish
-    Integer TopeInglés = 15;         ///< outside modes 2 and 5, words above this number are English
-    Text PalabraClave;               ///< the key word, upper case, without accents
-    Text PalabraMensaje;             ///< the key word as messages tell it, accents and full stop included
-    Integer NúmTecla = 0;            ///< index of the on-screen key of `Letra`
-    Textos<7> Días;                  ///< names of the days, from Sunday
-    bool fPrimerComentario = false;  ///< the next line of the hero greets a resumed game
-    Integer VecesSalto = 0;          ///< rounds of the jump
-    Integer VecesAngustia = 0;       ///< rounds of the anguish; not 0 locks letters and jokers
-    Textos<30> PalabrasUsadas;       ///< key words drawn in this game, accents included
-    Integer NúmUsadas = 0;
-    Integer LargoPalabra = 0;   ///< letters of `PalabraClave`
-    bool fInglésCaste = false;  ///< mode 2
-    bool fAlterna = false;      ///< mode 5
-    Text Traducción;            ///< blank, translation and full stop for an English word; else empty
-    Text PrimeraLetra;
-    Text ÚltimaLetra;
-    Integer PosiciónLetra = 0;    ///< Left of the letter box being placed, twips
-    Text Letra;                   ///< the letter under test
-    Integer NúmIntentadas = 0;    ///< letters tried in this word
-    Textos<20> LetrasIntentadas;  ///< those letters, in order
-    Integer Aciertos = 0;         ///< positions uncovered by tests
-    bool fAcierto = false;        ///< the letter under test is in the word
-    Integer IzqEmpujador1 = 0;    ///< the pusher's plate, its rod and the hero, twips
-    Integer AnchoEmpujador2 = 0;
-    Integer IzqZarpi = 0;
-    bool fFinPartida = true;   ///< no game is in play
-    bool fVictoria = false;    ///< the game has just been won
-    Integer Bonificación = 0;  ///< bonus of word 30
-    Textos<12> Músicas;        ///< files of the music pieces
-    Integer NúmMúsica = 0;     ///< the piece last started
-
-    Integer AzarComentario = 0;  ///< random number of the word's line, 1 to 23
-    Integer AzarPrevio1 = 0;     ///< the last three of them, latest first
+/// What lives as long as the program runs.
+struct EstadoPrograma {
+    Integer Modo = 1;             ///< game mode, 1 to 5, and what it decides:
+    bool fDiezPalabras = false;   ///< levels have 10 words instead of 5
+    bool fInglésCaste = false;    ///< mode 2
+    bool fAlterna = false;        ///< mode 5
+    Integer TopeCastellano = 16;  ///< outside modes 2 and 5, words below this number are Spanish
+    Integer TopeInglés = 15;      ///< outside modes 2 and 5, words above this number are English
+    Integer Tiempo = 60;          ///< minutes for a word: 1 to 4; 60 for no limit
+    Integer Sonido = 0;           ///< 0 sound on, 1 sound off
+    Integer ModoHonor = 1;        ///< mode of the honour board to show or to write
+    Text Nombre;                  ///< the name as typed, not trimmed
+    Integer Caídas = 0;           ///< falls in this run since the last win; the fourth ends all play
+    Integer último = 0;           ///< how many games are stored
+    bool fFinPartida = true;      ///< no game is in play
+    bool fSalirError = false;     ///< a file error has been told; the word clock will end the program
+    Integer VecesSalto = 0;       ///< rounds of the jump
+    Integer NúmMúsica = 0;        ///< the piece last started
+    Integer AzarPrevio1 = 0;      ///< the last three random numbers of the words' lines, latest first
     Integer AzarPrevio2 = 0;
     Integer AzarPrevio3 = 0;
-    Textos<23> Comentarios;  ///< the lines of which that number picks one
-    Integer DíaSemana = 0;   ///< 1 = Sunday to 7
+    Textos<7> Días;      ///< names of the days, from Sunday
+    Textos<12> Músicas;  ///< files of the music pieces
+};
+
+/// What lives for a game. A game begins with a fresh value.
+struct EstadoPartida {
+    Integer NúmNivel = 0;            ///< level shown, 1 to 6
+    Integer NúmPalabra = 0;          ///< word in play, 1 to 30; 0 before the first, 31 once word 30 is completed
+    Integer puntos = 0;              ///< zarpis so far
+    Integer plenos = 0;              ///< words completed without a miss so far
+    Integer comodines = 0;           ///< jokers held, 0 to 10
+    Integer Alter = 0;               ///< mode 5: language of the word in play, 1 Spanish, 2 English
+    Text anónimo{};                  ///< the name when the new game was started
+    bool plural = false;             ///< `Nombre` names several players
+    bool f200 = false;               ///< the extra joker for passing 200 zarpis has been given
+    bool fReanudar = false;          ///< the game is a resumed one that is being set up
+    bool fPrimerComentario = false;  ///< the next line of the hero greets a resumed game
+    bool fTiempoAgotado = false;     ///< the time limit of a word has ended the game
+    bool fVictoria = false;          ///< the game has been won
+    Integer VecesAngustia = 0;       ///< rounds of the anguish; not 0 locks letters and jokers
+    Integer NúmUsadas = 0;
+    Textos<30> PalabrasUsadas{};  ///< key words drawn in this game, accents included
+};
+
+/// What lives for a word. A word begins with a fresh value.
+struct EstadoPalabra {
+    Text PalabraClave{};            ///< the key word, upper case, without accents
+    Integer LargoPalabra = 0;       ///< letters of `PalabraClave`
+    Text PalabraMensaje{};          ///< the key word as messages tell it, accents and full stop included
+    Text Traducción{};              ///< blank, translation and full stop for an English word; else empty
+    std::int32_t HoraPalabra = 0;   ///< start of the word, seconds since midnight
+    Integer Fallo = 0;              ///< misses in the word; the tally reads them when the next word has begun
+    Integer Aciertos = 0;           ///< positions uncovered by tests
+    bool fAcierto = false;          ///< the letter under test is in the word
+    Integer NúmIntentadas = 0;      ///< letters tried in this word
+    Textos<20> LetrasIntentadas{};  ///< those letters, in order
+    Integer comod = 0;              ///< clicks on the joker since it was last idle: 0 idle, 1 armed
+    bool fComodín = false;          ///< a joker is armed
+    Integer IzqEmpujador1 = 0;      ///< the pusher's plate, its rod and the hero, twips
+    Integer AnchoEmpujador2 = 0;
+    Integer IzqZarpi = 0;
+};
+
+/// What is always written before it is read, and kept to be looked at.
+struct ValoresDeTrabajo {
+    Text Letra;            ///< the letter under test
+    Integer NúmTecla = 0;  ///< index of its on-screen key
+    Text PrimeraLetra;
+    Text ÚltimaLetra;
+    Integer PosiciónLetra = 0;   ///< Left of the letter box being placed, twips
+    Integer AzarComentario = 0;  ///< random number of the word's line, 1 to 23
+    Textos<23> Comentarios;      ///< the lines of which that number picks one
+    Integer DíaSemana = 0;       ///< 1 = Sunday to 7
     Integer NúmVocales = 0;
     Integer LetrasIguales = 0;
     Integer AzarAngustia = 0;  ///< random number of the line at the edge, 1 to 16
     Textos<16> ComentariosAngustia;
     Integer AzarCaída = 0;  ///< random number of the line after the fall, 1 to 15
     Textos<15> ComentariosCaída;
-
+    Integer Bonificación = 0;  ///< bonus of word 30
+    Text Fecha;                ///< of the game being saved, or chosen to be resumed
+    Text Contraseña;
     Text FechaPartida;  ///< of the entry in the last games
     Integer NúmPartidas = 0;
     Text TextoTiempo;
+};
+
+/// The game: its whole state, and the elements of its window. There is one, for as long as the program runs; every
+/// other window reads and assigns its fields directly.
+struct Zarpi : VentanaZarpi, EstadoPrograma, EstadoPartida, EstadoPalabra, ValoresDeTrabajo {
+    void Comenzar(EstadoPartida partida) { static_cast<EstadoPartida&>(*this) = std::move(partida); }
+    void Comenzar(EstadoPalabra palabra) { static_cast<EstadoPalabra&>(*this) = std::move(palabra); }
 };
 
 }  // namespace juego

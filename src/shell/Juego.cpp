@@ -1,10 +1,11 @@
 #include "shell/Juego.h"
 
 #include "engine/Elecciones.h"
-#include "shell/PaginaWeb.h"
+#include "game/AvisoError.h"
+#include "records/Diario.h"
 #include "shell/Teclado.h"
 #include "stage/Escena.h"
-#include "store/Guardadas.h"
+#include "windows/PaginaWeb.h"
 
 namespace juego {
 
@@ -78,7 +79,7 @@ void Juego::Form_Load() {
     OcultarFondos(z);
     z.picFondo(2).Visible = true;
     Diario::Recuperar(s.Files);
-    z.último = static_cast<Integer>(ContarGuardadas(z, s.Files));
+    z.último = NúmeroOAviso(z, LeerContador(s.Files, ArchivoGuardadas));
     if (z.último == 0) z.mnuReanudar.Enabled = false;
 }
 
@@ -89,7 +90,7 @@ std::vector<Form*> Juego::Ventanas() {
 
 std::optional<Valor> Juego::Campo(std::string_view form, std::string_view field) const {
     if (form == "Zarpi") return ValorDeCampo(z, field);
-    if (form == "frmPuntos" && field == "f200") return tanteo.f200;
+    if (form == "frmPuntos" && field == "f200") return z.f200;
     if (form == "frmFecha" && field == "FechaCua") return victoria.FechaCua;
     if (form == "frmCastellano" && field == "Aleator") return castellano.Aleator;
     if (form == "frmCastellano" && field == "Castel") return castellano.Castel;

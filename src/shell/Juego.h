@@ -9,18 +9,18 @@
 #include "engine/Partida.h"
 #include "engine/Reloj.h"
 #include "game/Campos.h"
-#include "screens/frmDiploma.h"
-#include "screens/frmFecha.h"
-#include "screens/frmNivel.h"
-#include "screens/frmPuntos.h"
-#include "shell/frmAcerca.h"
-#include "shell/frmNormas.h"
-#include "shell/frmPresenta.h"
 #include "stage/Empujador.h"
-#include "store/frmCuadro.h"
-#include "store/frmNombre.h"
-#include "store/frmReanudar.h"
-#include "store/frmUltimas.h"
+#include "windows/frmAcerca.h"
+#include "windows/frmCuadro.h"
+#include "windows/frmDiploma.h"
+#include "windows/frmFecha.h"
+#include "windows/frmNivel.h"
+#include "windows/frmNombre.h"
+#include "windows/frmNormas.h"
+#include "windows/frmPresenta.h"
+#include "windows/frmPuntos.h"
+#include "windows/frmReanudar.h"
+#include "windows/frmUltimas.h"
 
 namespace juego {
 
@@ -52,10 +52,9 @@ private:
 
     Música música{z, s.Media, s.Random, s.Clock};
     Comentario comentario{z, s.Random, s.Clock};
-    AnotarPartida anotar{z, s.Files, s.Clock};
     Secuencias secuencias{z, comentario};
-    Empujador empujador{z, s.Files, s.Media, comentario, secuencias, anotar};
-    Sorteo sorteo{z, castellano, inglés, s.Random, s.Clock, música};
+    Empujador empujador{z, s.Media, comentario};
+    Sorteo sorteo{z, castellano, inglés, s.Random, s.Clock};
 
     frmNivel nivel{z, s.Forms};
     frmPuntos tanteo{z, s.Forms, s.Media};
@@ -65,11 +64,11 @@ private:
     frmFecha victoria{z, s.Forms, s.Files, s.Media, s.Clock, música, [this] { Premiar(); }};
     frmDiploma diploma{z, s.Forms, s.Printer, s.Media, victoria.FechaCua};
 
-    Final fin{z, s.Forms, empujador, anotar, victoria};
-    Partida partida{z, s.Forms, s.Media, s.Clock, sorteo, comentario, fin, {nivel, tanteo, nombre}};
-    Letras letras{z, s.Dialogs, empujador, secuencias, [this] { partida.SiguientePalabra(); }};
+    Final fin{z, s.Forms, s.Files, s.Clock, empujador, secuencias, victoria};
+    Partida partida{z, s.Forms, s.Media, s.Clock, sorteo, música, comentario, fin, {nivel, tanteo, nombre}};
+    Letras letras{z, s.Dialogs, empujador, secuencias, fin, [this] { partida.SiguientePalabra(); }};
     Comodines comodines{z, s.Media, letras};
-    Reloj reloj{z, s.Forms, s.Media, s.Clock, empujador, anotar};
+    Reloj reloj{z, s.Forms, s.Media, s.Clock, fin};
 
     frmGuardar guardar{z, s.Forms, s.Dialogs, s.Files, s.Clock, índices, [this] { fin.PartidaGuardada(); }};
     frmReanudar reanudar;

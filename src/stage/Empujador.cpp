@@ -2,11 +2,9 @@
 
 #include <array>
 
-#include "game/Modos.h"
 #include "game/Reglas.h"
 #include "sound/Sonido.h"
 #include "stage/Escena.h"
-#include "store/Guardadas.h"
 
 namespace juego {
 
@@ -20,18 +18,6 @@ constexpr int kTeeteringTop = 60;
 constexpr std::array<int, 8> kPoseOfMiss = {0, 2, 3, 2, 3, 5, 0, 0};
 
 }  // namespace
-
-void Empujador::operator()() {
-    const bool ends = z.fTiempoAgotado || z.fGuardar || z.fVictoria;
-    z.fGuardar = false;
-    if (!ends) {
-        Fallar();
-        if (z.Fallo == reglas::FallosCaída) Caer();
-    }
-    const bool over = ends || z.Fallo == reglas::FallosCaída;
-    if (over && !Terminar()) return;
-    AnimarComodín();
-}
 
 void Empujador::Fallar() {
     ++z.Fallo;
@@ -70,35 +56,14 @@ void Empujador::Caer() {
     }
     z.Shape1.Visible = false;
     OcultarTeclado(z);
-    ++z.Caídas;
-    z.Label5.Caption = (z.plural ? u"Habéis fallado. La palabra clave es " : u"Has fallado. La palabra clave es ") +
-                       z.PalabraMensaje + z.Traducción + u" Fin de juego.";
     z.lblComentAngus.Visible = false;
     z.CaídaZarpi1.Start();
     z.picZarpi.Picture = Pose(6);
     z.picZarpi.Top = TopeZarpi;
-    anotar();
-}
-
-/// Closes the game and gives the menus back. False after the fourth fall, which keeps them closed for good.
-bool Empujador::Terminar() {
-    z.fFinPartida = true;
-    if (z.Caídas == reglas::CaídasEnfado) {
-        secuencias.FinPorEnfado();
-        return false;
-    }
-    for (const Modo& modo : Modos) (z.*modo.Entrada).Enabled = true;
-    z.tmrTiempo.Stop();
-    z.mnuNuevo.Enabled = true;
-    for (const TiempoPalabra& tiempo : Tiempos) (z.*tiempo.Entrada).Enabled = true;
-    z.último = static_cast<Integer>(ContarGuardadas(z, files));
-    if (z.último != 0) z.mnuReanudar.Enabled = true;
-    z.mnuGuardar.Enabled = false;
-    return true;
 }
 
 void Empujador::AnimarComodín() {
-    if (z.Fallo != reglas::FallosBorde || z.comodines == 0 || z.fTiempoAgotado || z.fVictoria) return;
+    if (z.Fallo != reglas::FallosBorde || z.comodines == 0) return;
     z.Label5.Caption = z.plural ? u"¡Usad un comodín!" : u"¡Usa un comodín!";
     Sonar(media, z, z.sonComodín, sonidos::Comodín);
 }

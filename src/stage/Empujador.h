@@ -2,34 +2,27 @@
 
 #include "commentary/Comentario.h"
 #include "game/Zarpi.h"
-#include "stage/Secuencias.h"
-#include "store/AnotarPartida.h"
 
 namespace juego {
 
-/// Shows a miss, and ends every game. What it does its caller says by a flag: `fTiempoAgotado`, `fGuardar` or
-/// `fVictoria` end the game; with none of them set the letter in `Letra` is a miss, and the seventh is the fall.
+/// The pusher: drives the hero a step towards the cliff at every miss, and over it at the seventh.
 class Empujador {
 public:
-    Empujador(Zarpi& zarpi, Files& files, Media& media, Comentario& comentario, Secuencias& secuencias,
-              AnotarPartida& anotar)
-        : z(zarpi), files(files), media(media), comentario(comentario), secuencias(secuencias), anotar(anotar) {}
+    Empujador(Zarpi& zarpi, Media& media, Comentario& comentario) : z(zarpi), media(media), comentario(comentario) {}
 
-    void operator()();
-
-private:
+    /// The letter in `Letra` is a miss.
     void Fallar();
-    void Avanzar(int step);
+    /// The seventh miss sends the hero over the cliff; keyboard and jokers go with him.
     void Caer();
-    bool Terminar();
+    /// Reminds a player on the edge of the jokers that he has left.
     void AnimarComodín();
 
+private:
+    void Avanzar(int step);
+
     Zarpi& z;
-    Files& files;
     Media& media;
     Comentario& comentario;
-    Secuencias& secuencias;
-    AnotarPartida& anotar;
 };
 
 }  // namespace juego

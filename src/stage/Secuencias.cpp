@@ -161,7 +161,6 @@ void Secuencias::FinPorEnfado() {
                         &z.mnuInglésHonor, &z.mnuCasteoInglésHonor, &z.mnuÚltimas, &z.mnuNormas, &z.mnuAcerca}) {
         entry->Enabled = false;
     }
-    z.tmrTiempo.Stop();
     z.Label5.Caption = u"La clave es " + z.PalabraMensaje + z.Traducción +
                        (z.plural ? u" ¡Vaya, Zarpi se ha enfadado y ya no podéis jugar!"
                                  : u" ¡Vaya, Zarpi se ha enfadado y ya no puedes jugar!");

@@ -20,7 +20,6 @@ void Sorteo::AnotarUsada() {
     z.LargoPalabra = static_cast<Integer>(z.PalabraClave.size());
     ++z.NúmUsadas;
     z.PalabrasUsadas.at(static_cast<std::size_t>(z.NúmUsadas)) = z.PalabraClave;
-    música.Cambiar();
 }
 
 void Sorteo::SacarPalabraCastellano() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "game/Zarpi.h"
-#include "sound/Sonido.h"
 
 namespace juego {
 
@@ -18,12 +17,11 @@ struct frmInglés {
     Integer Alea = 0;
 };
 
-/// Draws the key words of a game without repeats, and changes the music with each.
+/// Draws the key words of a game without repeats.
 class Sorteo {
 public:
-    Sorteo(Zarpi& zarpi, frmCastellano& castellano, frmInglés& inglés, Random& random, const Clock& clock,
-           Música& música)
-        : z(zarpi), castellano(castellano), inglés(inglés), random(random), clock(clock), música(música) {}
+    Sorteo(Zarpi& zarpi, frmCastellano& castellano, frmInglés& inglés, Random& random, const Clock& clock)
+        : z(zarpi), castellano(castellano), inglés(inglés), random(random), clock(clock) {}
 
     /// Leave the word, accents included, in `PalabraClave`, and for an English one its message and translation.
     /// While a game is being resumed they bring back the word of the stored index.
@@ -40,7 +38,6 @@ private:
     frmInglés& inglés;
     Random& random;
     const Clock& clock;
-    Música& música;
 };
 
 }  // namespace juego

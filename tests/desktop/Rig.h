@@ -2,8 +2,8 @@
 
 #include <QTest>
 
-#include "platform/desktop/Heartbeat.h"
-#include "platform/desktop/WindowDisplay.h"
+#include "desktop/Heartbeat.h"
+#include "desktop/WindowDisplay.h"
 
 namespace platform::desktop {
 

@@ -8,8 +8,8 @@
 #include <sys/resource.h>
 #endif
 
-#include "platform/desktop/DurableFiles.h"
-#include "platform/desktop/GameFolder.h"
+#include "desktop/DurableFiles.h"
+#include "desktop/GameFolder.h"
 
 namespace platform::desktop {
 namespace {

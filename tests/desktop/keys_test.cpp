@@ -1,4 +1,4 @@
-#include "platform/desktop/Keys.h"
+#include "desktop/Keys.h"
 
 #include <QInputMethodEvent>
 #include <gtest/gtest.h>

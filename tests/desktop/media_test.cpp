@@ -6,7 +6,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "platform/desktop/MediaPlayer.h"
+#include "desktop/MediaPlayer.h"
 
 namespace platform::desktop {
 namespace {

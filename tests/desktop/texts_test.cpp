@@ -5,10 +5,10 @@
 
 #include "commentary/FrasesPalabra.h"
 #include "commentary/FrasesReaccion.h"
-#include "platform/desktop/Scale.h"
-#include "platform/desktop/Strings.h"
-#include "screens/Presentaciones.h"
-#include "screens/frmNivel.h"
+#include "desktop/Scale.h"
+#include "desktop/Strings.h"
+#include "windows/Presentaciones.h"
+#include "windows/frmNivel.h"
 #include "words/Tablas.h"
 
 namespace platform::desktop {

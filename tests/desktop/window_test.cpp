@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "platform/desktop/FormPrinter.h"
+#include "desktop/FormPrinter.h"
 
 namespace platform::desktop {
 namespace {

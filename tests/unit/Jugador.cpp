@@ -3,8 +3,8 @@
 #include <array>
 
 #include "game/Modos.h"
-#include "store/Archivos.h"
-#include "store/Registros.h"
+#include "records/Archivos.h"
+#include "records/Registros.h"
 
 using namespace platform;
 using juego::Text;

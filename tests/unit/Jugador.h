@@ -4,8 +4,8 @@
 #include <random>
 #include <string>
 
-#include "platform/headless/Headless.h"
-#include "platform/headless/MemoryFiles.h"
+#include "headless/Headless.h"
+#include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
 
 /// Players for tests: each plays the whole program on the platform in memory, in a game folder of its own.

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "Carpeta.h"
-#include "platform/headless/FolderFiles.h"
-#include "store/Registros.h"
+#include "headless/FolderFiles.h"
+#include "records/Registros.h"
 
 namespace juego {
 namespace {

@@ -9,8 +9,8 @@
 #include <set>
 
 #include "commentary/FrasesPalabra.h"
-#include "platform/headless/Headless.h"
-#include "platform/headless/MemoryFiles.h"
+#include "headless/Headless.h"
+#include "headless/MemoryFiles.h"
 #include "words/Tablas.h"
 
 namespace juego {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/headless/Headless.h"
-#include "platform/headless/MemoryFiles.h"
-#include "screens/frmDiploma.h"
+#include "headless/Headless.h"
+#include "headless/MemoryFiles.h"
+#include "windows/frmDiploma.h"
 
 namespace juego {
 namespace {

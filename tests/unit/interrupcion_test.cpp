@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "game/Modos.h"
-#include "platform/headless/Headless.h"
-#include "platform/headless/MemoryFiles.h"
+#include "headless/Headless.h"
+#include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
 
 namespace juego {

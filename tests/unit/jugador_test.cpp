@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "Carpeta.h"
-#include "platform/headless/FolderFiles.h"
-#include "platform/headless/Player.h"
+#include "headless/FolderFiles.h"
+#include "headless/Player.h"
 #include "shell/Juego.h"
 
 namespace {

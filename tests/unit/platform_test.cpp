@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "platform/headless/Headless.h"
-#include "platform/headless/MemoryFiles.h"
+#include "headless/Headless.h"
+#include "headless/MemoryFiles.h"
 
 namespace platform::headless {
 namespace {

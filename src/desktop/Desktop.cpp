@@ -1,0 +1,147 @@
+#include "desktop/Desktop.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QPixmapCache>
+#include <QScreen>
+#include <QTranslator>
+#include <cstdlib>
+#include <random>
+
+#include "desktop/DurableFiles.h"
+#include "desktop/FormPrinter.h"
+#include "desktop/GameFolder.h"
+#include "desktop/Heartbeat.h"
+#include "desktop/MediaPlayer.h"
+#include "desktop/SystemServices.h"
+#include "desktop/WindowDisplay.h"
+#include "platform/Generator.h"
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+namespace platform::desktop {
+
+namespace {
+
+constexpr double kTextSize = 9;  // points, of menus and messages
+
+/// Keeps pictures out of the heap, where the place of a large one that is gone would stay taken.
+void ReturnLargeMemory() {
+#ifdef __GLIBC__
+    constexpr int kLarge = 64 * 1024;
+    mallopt(M_MMAP_THRESHOLD, kLarge);
+    mallopt(M_TRIM_THRESHOLD, kLarge);
+#endif
+}
+
+std::uint64_t Seed() {
+    std::random_device device;
+    return (std::uint64_t{device()} << 32U) | device();
+}
+
+}  // namespace
+
+/// The parts in the order in which they are made; each uses those above it.
+class Desktop::Parts {
+public:
+    Parts(int& argc, char** argv);
+
+    int Run();
+    platform::Services& Services() { return services_; }
+
+private:
+    void EnterFolder();
+    void SetLook();
+    void LoadTranslation();
+
+    QApplication app_;
+    QTranslator translator_;
+    GameFolder folder_;
+    const Scale scale_;
+    WindowDisplay display_;
+    Heartbeat heartbeat_;
+    Scheduler scheduler_;
+    Screen screen_;
+
+    MediaPlayer media_;
+    MessageDialogs dialogs_{display_};
+    FormPrinter printer_{display_};
+    SystemClock clock_;
+    SystemBrowser browser_;
+    Generator random_{Seed()};
+    DurableFiles files_;
+    platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_};
+};
+
+Desktop::Parts::Parts(int& argc, char** argv)
+    : app_(argc, argv),
+      scale_(Scale::For(QApplication::primaryScreen()->availableSize())),
+      display_(scale_),
+      scheduler_([this] { return heartbeat_.Now(); }),
+      screen_(display_, scheduler_) {
+    SetLook();
+    EnterFolder();
+    display_.Attach(screen_);
+    heartbeat_.Attach(scheduler_, screen_);
+    display_.OnRefresh = [this] { heartbeat_.Arm(); };
+    display_.OnEnd = [this] { folder_.Leave(); };
+    display_.OnFirstWindow = [this] {
+        media_.Start();
+        LoadTranslation();
+    };
+}
+
+void Desktop::Parts::EnterFolder() {
+    QApplication::setApplicationName("zarpi");
+    if (folder_.Enter(GameFolder::SystemPlaces())) return;
+    ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
+    std::exit(EXIT_FAILURE);
+}
+
+/// The same look on every desktop: the colours of the design are meant for a light one.
+void Desktop::Parts::SetLook() {
+    constexpr QRgb kGround = 0xEFEFEF;
+    constexpr int kCacheLimit = 4096;  // kilobytes
+    QApplication::setPalette(QPalette(QColor(kGround)));
+    QApplication::setFont(scale_.Font(FontName::MSSansSerif, kTextSize, false));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QPixmapCache::setCacheLimit(kCacheLimit);
+}
+
+/// The texts that Qt itself brings to dialogs and menus of text boxes.
+void Desktop::Parts::LoadTranslation() {
+    if (!translator_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) return;
+    QApplication::installTranslator(&translator_);
+}
+
+int Desktop::Parts::Run() {
+    if (screen_.Shown().empty()) return EXIT_SUCCESS;
+    display_.OnRefresh = [this] {
+        heartbeat_.Arm();
+        if (screen_.Shown().empty()) QApplication::quit();
+    };
+    display_.Refresh();
+    const int status = QApplication::exec();
+    folder_.Leave();
+    return status;
+}
+
+Desktop::Desktop(int& argc, char** argv) {
+    ReturnLargeMemory();
+    QApplication::setStyle("fusion");
+    parts_ = std::make_unique<Parts>(argc, argv);
+}
+
+Desktop::~Desktop() = default;
+
+platform::Services& Desktop::Services() {
+    return parts_->Services();
+}
+
+int Desktop::Run() {
+    return parts_->Run();
+}
+
+}  // namespace platform::desktop

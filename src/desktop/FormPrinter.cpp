@@ -1,0 +1,51 @@
+#include "desktop/FormPrinter.h"
+
+#include <QPainter>
+#include <QPicture>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <algorithm>
+
+#include "desktop/WindowDisplay.h"
+
+namespace platform::desktop {
+
+FormPrinter::FormPrinter(WindowDisplay& display) : display_(display) {}
+
+FormPrinter::~FormPrinter() = default;
+
+bool FormPrinter::ShowDialog() {
+    display_.Refresh();
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(printer.get(), display_.FrontWindow());
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    if (dialog.exec() != QDialog::Accepted) return false;
+    printer_ = std::move(printer);
+    return true;
+}
+
+void FormPrinter::PrintForm(const Form& form) {
+    FormWindow* const window = display_.WindowOf(form);
+    if (window == nullptr || printer_ == nullptr) return;
+    window->Refresh();
+    PrintWidget(window->ClientArea(), *printer_);
+}
+
+void PrintWidget(QWidget& widget, QPrinter& printer) {
+    // A widget that renders straight to a printer becomes one bitmap; by way of a picture it stays what was drawn.
+    QPicture picture;
+    widget.render(&picture);
+    QPainter painter(&printer);
+    if (!painter.isActive()) return;
+    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
+    const double factor = std::min(static_cast<double>(page.width()) / widget.width(),
+                                   static_cast<double>(page.height()) / widget.height());
+    painter.scale(factor, factor);
+    painter.setClipRect(widget.rect());
+    // A picture keeps its size in inches; its own pixels are meant.
+    const double pixels = static_cast<double>(picture.logicalDpiX()) / printer.logicalDpiX();
+    painter.scale(pixels, pixels);
+    painter.drawPicture(0, 0, picture);
+}
+
+}  // namespace platform::desktop

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "desktop/Client.h"
+#include "desktop/KeyFilter.h"
+#include "desktop/MenuView.h"
+#include "desktop/View.h"
+
+namespace platform::desktop {
+
+/// The window of an open form: frame, menu bar, client area of a fixed size, a view for each element.
+class FormWindow : public QWidget {
+public:
+    /// A modal form stands over `owner`, the window in front so far, and blocks it. The window is not shown yet.
+    FormWindow(const Toolkit& toolkit, Form& form, QWidget* owner, bool modal);
+    ~FormWindow() override;
+
+    /// Shows what has changed in the form since the last time.
+    void Refresh();
+
+    [[nodiscard]] Client& ClientArea() const { return client_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void MakeViews();
+    void SetTabOrder();
+    void RefreshFrame();
+    void RefreshLayers();
+    void RefreshFocus();
+    void SetSize();
+    void SetGround();
+    void SetPlace();
+
+    const Toolkit toolkit_;
+    Form& form_;
+    Client& client_;
+    KeyFilter& keys_;
+    std::unique_ptr<MenuView> menu_;
+    std::map<const Control*, std::unique_ptr<View>> views_;
+    std::vector<Control*> layers_;  // from back to front, as the widgets stand
+    std::optional<FormLook> shown_;
+};
+
+}  // namespace platform::desktop

@@ -1,0 +1,58 @@
+#include "desktop/KeyFilter.h"
+
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QListWidget>
+
+namespace platform::desktop {
+
+namespace {
+
+bool TakesKeys(const QObject* receiver) {
+    return dynamic_cast<const QLineEdit*>(receiver) != nullptr || dynamic_cast<const QListWidget*>(receiver) != nullptr;
+}
+
+}  // namespace
+
+KeyFilter::KeyFilter(Screen& screen, const Form& form, QWidget& client)
+    : QObject(&client), screen_(screen), form_(form), client_(client) {
+    client.setAttribute(Qt::WA_InputMethodEnabled);
+    client.installEventFilter(this);
+    client.window()->installEventFilter(this);
+}
+
+void KeyFilter::Watch(QWidget& widget) {
+    hasFocusOrder_ = true;
+    widget.installEventFilter(this);
+}
+
+bool KeyFilter::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) return TakeKey(receiver, static_cast<const QKeyEvent&>(*event));
+    if (event->type() == QEvent::InputMethod && receiver == &client_) {
+        TakeText(static_cast<const QInputMethodEvent&>(*event).commitString());
+        return true;
+    }
+    return false;
+}
+
+bool KeyFilter::MovesFocus(const QKeyEvent& press) const {
+    return hasFocusOrder_ && (press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab);
+}
+
+bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
+    if (MovesFocus(press)) return false;
+    const std::optional<Key> key = reader_.Read(press);
+    const bool taken = key && Press(*key);
+    return taken || !TakesKeys(receiver);
+}
+
+void KeyFilter::TakeText(const QString& text) {
+    for (const QChar character : text) Press(KeyOfCharacter(character.unicode()));
+}
+
+/// A key that was still on its way to a form that is gone must not reach the one behind.
+bool KeyFilter::Press(const Key& key) {
+    return screen_.Front() != &form_ || screen_.Press(key);
+}
+
+}  // namespace platform::desktop

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+
+#include "desktop/Keys.h"
+#include "platform/Screen.h"
+
+namespace platform::desktop {
+
+/// Hands every key press in a window to the screen before any widget sees it. What the screen leaves goes on to the
+/// widget that has the focus if that takes texts or a selection, and nowhere else.
+class KeyFilter : public QObject {
+public:
+    /// `client` is the widget with the focus while no element has it; it takes the characters of input methods.
+    KeyFilter(Screen& screen, const Form& form, QWidget& client);
+
+    /// Watches a widget that can have the focus.
+    void Watch(QWidget& widget);
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    [[nodiscard]] bool MovesFocus(const QKeyEvent& press) const;
+    bool TakeKey(QObject* receiver, const QKeyEvent& press);
+    void TakeText(const QString& text);
+    bool Press(const Key& key);
+
+    Screen& screen_;
+    const Form& form_;
+    QWidget& client_;
+    KeyReader reader_;
+    bool hasFocusOrder_ = false;
+};
+
+}  // namespace platform::desktop

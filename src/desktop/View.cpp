@@ -1,0 +1,119 @@
+#include "desktop/View.h"
+
+#include <QMouseEvent>
+
+#include "desktop/ButtonView.h"
+#include "desktop/FigureViews.h"
+#include "desktop/LabelView.h"
+#include "desktop/ListBoxView.h"
+#include "desktop/PictureView.h"
+#include "desktop/Strings.h"
+#include "desktop/TextBoxView.h"
+
+namespace platform::desktop {
+
+namespace {
+
+/// Turns the left mouse button into clicks of an element.
+class ClickFilter : public QObject {
+public:
+    ClickFilter(QWidget& widget, Screen& screen, Control& element)
+        : QObject(&widget), screen_(screen), element_(element) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonDblClick: return IsLeft(*event);
+            case QEvent::MouseButtonRelease: return IsLeft(*event) && Release(receiver, *event);
+            default: return false;
+        }
+    }
+
+private:
+    static bool IsLeft(const QEvent& event) {
+        return static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+    }
+
+    bool Release(QObject* receiver, const QEvent& event) {
+        const QPoint spot = static_cast<const QMouseEvent&>(event).position().toPoint();
+        if (!static_cast<QWidget*>(receiver)->rect().contains(spot)) return true;
+        if (element_.Click) {
+            screen_.Click(element_);
+        } else {
+            screen_.Click(element_.Owner);
+        }
+        return true;
+    }
+
+    Screen& screen_;
+    Control& element_;
+};
+
+/// Tells the screen that the player has moved the focus to an element.
+class FocusFilter : public QObject {
+public:
+    FocusFilter(QWidget& widget, Screen& screen, Control& element)
+        : QObject(&widget), screen_(screen), element_(element) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn) screen_.Focus(element_);
+        return false;
+    }
+
+private:
+    Screen& screen_;
+    Control& element_;
+};
+
+template <class V, class E>
+std::unique_ptr<View> Make(const Toolkit& toolkit, Control& element, QWidget& client) {
+    return std::make_unique<V>(toolkit, static_cast<E&>(element), client);
+}
+
+}  // namespace
+
+View::View(const Toolkit& toolkit, Control& element, QWidget& widget)
+    : toolkit_(toolkit), element_(element), widget_(widget) {
+    widget_.setObjectName(ToQt(std::string_view(element_.FullName())));
+    widget_.setFocusPolicy(Qt::NoFocus);
+    widget_.hide();
+}
+
+void View::TakeClicks() {
+    new ClickFilter(widget_, toolkit_.Screen, element_);
+}
+
+void View::TakeFocus(int tabIndex) {
+    if (tabIndex == 0) return;
+    widget_.setFocusPolicy(Qt::StrongFocus);
+    new FocusFilter(widget_, toolkit_.Screen, element_);
+}
+
+std::unique_ptr<View> MakeView(const Toolkit& toolkit, Control& element, QWidget& client) {
+    switch (element.kind) {
+        case Kind::Label: return Make<LabelView, Label>(toolkit, element, client);
+        case Kind::PictureBox: return Make<PictureBoxView, PictureBox>(toolkit, element, client);
+        case Kind::Image: return Make<ImageView, Image>(toolkit, element, client);
+        case Kind::Shape: return Make<ShapeView, Shape>(toolkit, element, client);
+        case Kind::Line: return Make<LineView, Line>(toolkit, element, client);
+        case Kind::TextBox: return Make<TextBoxView, TextBox>(toolkit, element, client);
+        case Kind::ListBox: return Make<ListBoxView, ListBox>(toolkit, element, client);
+        case Kind::CommandButton:
+            if (static_cast<const CommandButton&>(element).Covered) return nullptr;
+            return Make<ButtonView, CommandButton>(toolkit, element, client);
+        case Kind::Menu:
+        case Kind::Timer: break;
+    }
+    return nullptr;
+}
+
+void SetToolTip(QWidget& widget, const Text& text) {
+    const QString plain = ToQt(text);
+    widget.setToolTip(Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain);
+}
+
+}  // namespace platform::desktop

@@ -1,0 +1,69 @@
+#include "desktop/WindowDisplay.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <cstdlib>
+
+namespace platform::desktop {
+
+WindowDisplay::~WindowDisplay() {
+    for (const auto& [form, window] : windows_) delete window;
+}
+
+FormWindow* WindowDisplay::WindowOf(const Form& form) const {
+    const auto window = windows_.find(&form);
+    return window == windows_.end() ? nullptr : window->second.data();
+}
+
+FormWindow* WindowDisplay::FrontWindow() const {
+    const Form* const front = screen_->Front();
+    return front == nullptr ? nullptr : WindowOf(*front);
+}
+
+void WindowDisplay::Opened(Form& form, bool modal) {
+    const auto& shown = screen_->Shown();
+    FormWindow* const owner = shown.size() < 2 ? nullptr : WindowOf(*shown[shown.size() - 2]);
+    auto* const window = new FormWindow({*screen_, scale_, pictures_}, form, owner, modal);
+    windows_[&form] = window;
+    if (!hadWindow_) {
+        // The window is up when what it has painted has left for the screen: after this round of the event loop.
+        window->ClientArea().OnFirstPaint = [this] {
+            const auto tell = [this] {
+                if (OnFirstWindow) OnFirstWindow();
+            };
+            QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
+        };
+    }
+    hadWindow_ = true;
+    window->show();
+    window->activateWindow();
+}
+
+void WindowDisplay::Closed(Form& form) {
+    FormWindow* const window = WindowOf(form);
+    windows_.erase(&form);
+    if (window == nullptr) return;
+    window->hide();
+    // Not deleted at once: the event that closes it may be its own.
+    window->deleteLater();
+    if (FormWindow* const front = FrontWindow()) front->activateWindow();
+}
+
+void WindowDisplay::Refresh() {
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr) window->Refresh();
+    }
+    if (OnRefresh) OnRefresh();
+}
+
+void WindowDisplay::WaitUntil(const std::function<bool()>& done) {
+    QEventLoop loop;
+    while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void WindowDisplay::End() {
+    if (OnEnd) OnEnd();
+    std::_Exit(EXIT_SUCCESS);
+}
+
+}  // namespace platform::desktop

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QPointer>
+#include <functional>
+#include <map>
+
+#include "desktop/FormWindow.h"
+#include "platform/Screen.h"
+
+namespace platform::desktop {
+
+/// The windows on the player's screen.
+class WindowDisplay : public Display {
+public:
+    explicit WindowDisplay(const Scale& scale) : scale_(scale), pictures_(scale) {}
+    ~WindowDisplay() override;
+
+    /// Where the player's input goes; to be told before the first form is shown.
+    void Attach(Screen& screen) { screen_ = &screen; }
+
+    void Opened(Form& form, bool modal) override;
+    void Closed(Form& form) override;
+    void Refresh() override;
+    void WaitUntil(const std::function<bool()>& done) override;
+    void End() override;
+
+    /// The window of an open form; null if it is not open.
+    [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
+    /// The window in front; null if there is none.
+    [[nodiscard]] FormWindow* FrontWindow() const;
+
+    std::function<void()> OnFirstWindow;  ///< the first window is up and painted; called from the event loop
+    std::function<void()> OnRefresh;      ///< every refresh has run to its end
+    std::function<void()> OnEnd;          ///< what must be done before the process ends
+
+private:
+    const Scale scale_;
+    const Pictures pictures_;
+    Screen* screen_ = nullptr;
+    std::map<const Form*, QPointer<FormWindow>> windows_;
+    bool hadWindow_ = false;
+};
+
+}  // namespace platform::desktop
