@@ -1,10 +1,13 @@
 // zarpi: the game in its window.
 
+#include <cstdlib>
+
 #include "desktop/Desktop.h"
 #include "shell/Juego.h"
 
 int main(int argc, char** argv) {
     platform::desktop::Desktop desktop(argc, argv);
+    if (!desktop.EnterFolder()) return EXIT_FAILURE;
     juego::Juego juego(desktop.Services());
     juego.Start();
     return desktop.Run();

@@ -48,11 +48,11 @@ class Desktop::Parts {
 public:
     Parts(int& argc, char** argv);
 
+    bool EnterFolder();
     int Run();
     platform::Services& Services() { return services_; }
 
 private:
-    void EnterFolder();
     void SetLook();
     void LoadTranslation();
 
@@ -82,7 +82,6 @@ Desktop::Parts::Parts(int& argc, char** argv)
       scheduler_([this] { return heartbeat_.Now(); }),
       screen_(display_, scheduler_) {
     SetLook();
-    EnterFolder();
     display_.Attach(screen_);
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
@@ -93,11 +92,11 @@ Desktop::Parts::Parts(int& argc, char** argv)
     };
 }
 
-void Desktop::Parts::EnterFolder() {
+bool Desktop::Parts::EnterFolder() {
     QApplication::setApplicationName("zarpi");
-    if (folder_.Enter(GameFolder::SystemPlaces())) return;
-    ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
-    std::exit(EXIT_FAILURE);
+    const bool free = folder_.Enter(GameFolder::SystemPlaces());
+    if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
+    return free;
 }
 
 /// The same look on every desktop: the colours of the design are meant for a light one.
@@ -138,6 +137,10 @@ Desktop::~Desktop() = default;
 
 platform::Services& Desktop::Services() {
     return parts_->Services();
+}
+
+bool Desktop::EnterFolder() {
+    return parts_->EnterFolder();
 }
 
 int Desktop::Run() {

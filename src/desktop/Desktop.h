@@ -10,18 +10,21 @@ namespace platform::desktop {
 ///
 ///     int main(int argc, char** argv) {
 ///         platform::desktop::Desktop desktop(argc, argv);
+///         if (!desktop.EnterFolder()) return EXIT_FAILURE;
 ///         Game game(desktop.Services());
 ///         game.Start();
 ///         return desktop.Run();
 ///     }
 class Desktop {
 public:
-    /// Settles the game folder, which is the current one from here on. If a game is already running there it says so
-    /// and ends the program.
     Desktop(int& argc, char** argv);
     ~Desktop();
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
+
+    /// Settles the game folder, which is the current one from here on. False, and the player told, if a game is already
+    /// running there. To be called before anything is read or stored.
+    bool EnterFolder();
 
     /// What the game works with; lives as long as this does.
     platform::Services& Services();

@@ -32,7 +32,6 @@ public:
     virtual void Refresh() = 0;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
-    [[nodiscard]] const Control& Element() const { return element_; }
 
 protected:
     /// Lets the left mouse button, pressed and released on the widget, click the element; the form instead, if the
