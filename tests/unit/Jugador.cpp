@@ -62,6 +62,7 @@ void Jugador::Run() {
 bool Jugador::OneMove() {
     if (moves_ <= 0 || !fault_.empty()) return false;
     --moves_;
+    LookBack();
     headless_->log.Clear();
     Move();
     if (fault_.empty()) fault_ = Fault();

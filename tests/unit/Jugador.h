@@ -23,6 +23,8 @@ protected:
     /// Makes moves until `moves` of them are made, or a fault is found, or the program ends.
     void Run();
     virtual void Move() = 0;
+    /// Comes before every move, with the log of the one before.
+    virtual void LookBack() {}
 
     const juego::Zarpi& Game() const { return static_cast<const juego::Zarpi&>(*windows_.front()); }
     platform::Form& Front() const { return *headless_->screen.Front(); }
