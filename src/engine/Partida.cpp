@@ -59,7 +59,6 @@ void Partida::NuevoReanudar() {
                       .fPrimerComentario = true});
     AbrirTablero();
     z.lblMenComienzo.Visible = false;
-    z.lblComentario.Visible = false;
     z.lblMensajeError.Visible = false;
     z.lblNombre.Caption = Trim(z.Nombre);
     SiguientePalabra();
