@@ -9,8 +9,9 @@ set(FLOOR_words 3)
 set(FLOOR_stage 3)
 set(FLOOR_windows 3)
 set(FLOOR_engine 4)
+set(FLOOR_voice 4)
 set(FLOOR_shell 5)
-set(rooms platform game records commentary sound words stage windows engine shell)
+set(rooms platform game records commentary sound words stage windows engine voice shell)
 set(platforms headless desktop)
 
 # Whether a source of `room` that includes a header of `other` builds.

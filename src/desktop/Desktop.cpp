@@ -72,7 +72,8 @@ private:
     SystemBrowser browser_;
     Generator random_{Seed()};
     DurableFiles files_;
-    platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_};
+    SystemSpeech speech_;
+    platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_, speech_};
 };
 
 Desktop::Parts::Parts(int& argc, char** argv)

@@ -42,7 +42,7 @@ double ScriptedRandom::Rnd() {
 }
 
 Services Headless::Services() {
-    return {screen, *this, *this, clock, random, *this, *this, files};
+    return {screen, *this, *this, clock, random, *this, *this, files, *this};
 }
 
 void Headless::Wait(Moment duration) {

@@ -68,7 +68,7 @@ private:
 };
 
 /// The platform. Its player is a function that makes one move at each call.
-class Headless : Display, Dialogs, Printer, Media, Web {
+class Headless : Display, Dialogs, Printer, Media, Web, Speech {
 public:
     /// The stored files lie where `files` keeps them; it must outlive the platform.
     explicit Headless(platform::Files& files) : files(files) {}
@@ -88,6 +88,10 @@ public:
     /// The answer of the printer dialogs from here on.
     bool AcceptPrinter = true;
 
+    /// Somebody listens from here on: what is said stands in `spoken`, a text a line.
+    void Listen() { listening_ = true; }
+    std::vector<Text> spoken;
+
     /// Moves the clock; timers that become due fire in their order, those due at the very end too.
     void Wait(Moment duration);
 
@@ -103,8 +107,11 @@ private:
     void PrintForm(const Form& form) override { log.Add("print " + form.Name); }
     void Command(const MediaChannel& channel, MediaCommand command) override;
     void Navigate(TextView address) override { log.Add("navigate " + ToUtf8(address)); }
+    [[nodiscard]] bool IsHeard() const override { return listening_; }
+    void Say(TextView text) override { spoken.emplace_back(text); }
 
     std::function<bool()> move_;
+    bool listening_ = false;
 };
 
 }  // namespace platform::headless

@@ -62,7 +62,9 @@ Key ParseKey(std::string_view name) {
                                                            {"F2", PlainKey(KeyF1 + 1)},
                                                            {"F3", PlainKey(KeyF1 + 2)},
                                                            {"F4", PlainKey(KeyF1 + 3)},
-                                                           {"F5", PlainKey(KeyF5)}};
+                                                           {"F5", PlainKey(KeyF5)},
+                                                           {"F7", PlainKey(KeyF7)},
+                                                           {"F8", PlainKey(KeyF8)}};
     if (const auto named = kNamed.find(name); named != kNamed.end()) return named->second;
     constexpr std::string_view kControl = "Ctrl+";
     if (name.starts_with(kControl) && name.size() == kControl.size() + 1) {
@@ -94,25 +96,16 @@ Player::Player(Headless& platform, Program program, std::ostream& out)
 
 const std::vector<Player::CommandRow>& Player::Commands() {
     static const std::vector<CommandRow> kCommands = {
-        {"date", &Player::SetDate, false},
-        {"time", &Player::SetTime, false},
-        {"rnd", &Player::QueueRnd, false},
-        {"draw", &Player::QueueDraw, false},
-        {"start", &Player::Start, false},
-        {"click", &Player::Click, false},
-        {"key", &Player::PressKey, false},
-        {"keys", &Player::PressKeys, false},
-        {"type", &Player::Type, false},
-        {"select", &Player::Select, false},
-        {"close", &Player::Close, false},
-        {"wait", &Player::Wait, false},
-        {"printer", &Player::AnswerPrinter, false},
-        {"show", &Player::Show, true},
-        {"expect", &Player::Expect, true},
-        {"forget", &Player::Forget, true},
-        {"write", &Player::WriteFile, false},
-        {"delete", &Player::DeleteFile, false},
-        {"block", &Player::BlockFile, false},
+        {"date", &Player::SetDate, false},      {"time", &Player::SetTime, false},
+        {"rnd", &Player::QueueRnd, false},      {"draw", &Player::QueueDraw, false},
+        {"start", &Player::Start, false},       {"click", &Player::Click, false},
+        {"key", &Player::PressKey, false},      {"keys", &Player::PressKeys, false},
+        {"type", &Player::Type, false},         {"select", &Player::Select, false},
+        {"close", &Player::Close, false},       {"wait", &Player::Wait, false},
+        {"listen", &Player::Listen, false},     {"printer", &Player::AnswerPrinter, false},
+        {"show", &Player::Show, true},          {"expect", &Player::Expect, true},
+        {"forget", &Player::Forget, true},      {"write", &Player::WriteFile, false},
+        {"delete", &Player::DeleteFile, false}, {"block", &Player::BlockFile, false},
     };
     return kCommands;
 }
@@ -240,6 +233,11 @@ void Player::Close(std::string_view /*rest*/) {
 
 void Player::Wait(std::string_view rest) {
     platform_.Wait(Moment(ParseNumber<int>(rest)));
+}
+
+/// Somebody listens from here on: `show speech` and `expect speech` tell what has been said since the last of them.
+void Player::Listen(std::string_view /*rest*/) {
+    platform_.Listen();
 }
 
 void Player::AnswerPrinter(std::string_view rest) {

@@ -61,6 +61,7 @@ private:
     void Select(std::string_view rest);
     void Close(std::string_view rest);
     void Wait(std::string_view rest);
+    void Listen(std::string_view rest);
     void AnswerPrinter(std::string_view rest);
     void Show(std::string_view what);
     void Expect(std::string_view what);
@@ -79,6 +80,7 @@ private:
     Answer AskFile(std::string_view rest) const;
     std::string ShownForms() const;
     std::string FocusName() const;
+    std::string Spoken() const;
     std::string ValueOf(std::string_view name) const;
     std::optional<Value> FormValue(std::string_view name) const;
     void ExpectRefused(std::string_view rest);

@@ -100,6 +100,7 @@ Player::Answer Player::Ask(std::string_view what) const {
     if (word == "file") return AskFile(rest);
     if (word == "files") return {"files", NamesInFolder(), std::string(rest)};
     if (word == "forms") return {"forms", ShownForms(), std::string(rest)};
+    if (word == "speech") return {"speech", Spoken(), std::string(rest)};
     if (word == "focus") return {"focus", FocusName(), std::string(rest)};
     if (word == "size") {
         const auto [name, size] = SplitWord(rest);
@@ -127,6 +128,13 @@ std::string Player::ShownForms() const {
     std::string names;
     for (const Form* form : platform_.screen.Shown()) names += (names.empty() ? "" : " ") + form->Name;
     return names.empty() ? "none" : names;
+}
+
+std::string Player::Spoken() const {
+    Text said;
+    for (const Text& text : platform_.spoken) said += (said.empty() ? u"" : u" | ") + text;
+    platform_.spoken.clear();
+    return Format(said);
 }
 
 std::string Player::FocusName() const {

@@ -80,6 +80,10 @@ public:
     /// What a click does; a tick, for a timer. Set once, when the program is put together.
     std::function<void()> Click;
 
+    /// What a screen reader calls the element; empty: it has nothing to say and is left out. Where this is not set,
+    /// labels and buttons are called by their caption and pictures and figures are left out. Set once, like Click.
+    std::function<Text()> SpokenName;
+
 protected:
     static void Register(Control& control);
 
@@ -249,6 +253,9 @@ private:
     bool enabled_ = false;
     Scheduler* scheduler_ = nullptr;
 };
+
+/// What a screen reader calls an element: its spoken name, or else its caption; empty for one that is left out.
+Text SpokenNameOf(const Control& control);
 
 /// Elements under one name, counted from First: lblTecla(5).
 template <class T, int N, int First = 1>

@@ -21,6 +21,15 @@ std::string Control::FullName() const {
     return Index < 0 ? Name : Name + "(" + std::to_string(Index) + ")";
 }
 
+Text SpokenNameOf(const Control& control) {
+    if (control.SpokenName) return control.SpokenName();
+    switch (control.kind) {
+        case Kind::Label: return static_cast<const Label&>(control).Caption;
+        case Kind::CommandButton: return static_cast<const CommandButton&>(control).Caption;
+        default: return {};
+    }
+}
+
 Menu::Menu(Form& form, std::string_view name, MenuLook look) : Element(form, name, {}, std::move(look)) {
     form.Add(*this);
 }

@@ -66,6 +66,10 @@ public:
     std::function<void(int keyCode)> OnKeyDown;    ///< with KeyPreview only
     std::function<void()> OnQueryUnload;           ///< the closing routine
 
+    /// A key that helps players without a mouse or without sight, asked before anything else; false: it is none of
+    /// these.
+    std::function<bool(const Key&)> OnHelpKey;
+
     // Elements register themselves when they are made.
     void Add(Control& control);
     void Add(Menu& menu) { menus_.push_back(&menu); }

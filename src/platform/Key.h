@@ -16,6 +16,8 @@ enum KeyCode : int {
     KeyDown = 40,
     KeyF1 = 112,
     KeyF5 = 116,
+    KeyF7 = 118,
+    KeyF8 = 119,
 };
 
 /// One key press as a form gets it.

@@ -30,7 +30,7 @@ void Screen::Show(Form& form) {
 
 void Screen::ShowModal(Form& form) {
     Open(form, true);
-    display_.Refresh();
+    Settle();
     display_.WaitUntil([this, &form] { return !Contains(shown_, form); });
 }
 
@@ -66,6 +66,11 @@ Refusal Screen::Reach(const Control& control) const {
 
 void Screen::Run(const std::function<void()>& handler) {
     if (handler) handler();
+    Settle();
+}
+
+void Screen::Settle() {
+    if (OnSettled) OnSettled();
     display_.Refresh();
 }
 
@@ -111,7 +116,7 @@ Refusal Screen::Type(TextBox& box, TextView text) {
     if (refusal != Refusal::None) return refusal;
     Focus(box);
     box.Text = Acceptable(box, text);
-    display_.Refresh();
+    Settle();
     return Refusal::None;
 }
 
@@ -153,6 +158,10 @@ void Screen::PressPreview(Form& form, const Key& key) {
 bool Screen::Press(const Key& key) {
     if (Front() == nullptr || Reach(*Front()) != Refusal::None) return false;
     Form& form = *Front();
+    if (form.OnHelpKey && form.OnHelpKey(key)) {
+        Settle();
+        return true;
+    }
     if (form.KeyPreview && form.OnKeyDown) Run([&form, &key] { form.OnKeyDown(key.Code); });
     if (PressShortcut(form, key)) return true;
     // Esc belongs to the cancel button alone; every other key with a character is seen by the form first.

@@ -45,7 +45,7 @@ public:
 
     Refusal Click(Control& control);
     Refusal Click(Form& form);
-    /// A key for the form in front: key preview, shortcuts, default and cancel button. False: it goes on to the
+    /// A key for the form in front: help, key preview, shortcuts, default and cancel button. False: it goes on to the
     /// element that has the focus.
     bool Press(const Key& key);
     /// A key for the text box that has the focus, if there is one: its character goes to the end of the text.
@@ -63,7 +63,7 @@ public:
 
     /// The forms on the screen, back to front.
     [[nodiscard]] const std::vector<Form*>& Shown() const { return shown_; }
-    [[nodiscard]] Form* Front() const { return shown_.empty() ? nullptr : shown_.back(); }
+    [[nodiscard]] Form* Front() const override { return shown_.empty() ? nullptr : shown_.back(); }
     /// Whether the player can reach a form, and an element of it.
     [[nodiscard]] Refusal Reach(const Form& form) const;
     [[nodiscard]] Refusal Reach(const Control& control) const;
@@ -75,6 +75,7 @@ private:
     bool Contains(const std::vector<Form*>& forms, const Form& form) const;
     void Open(Form& form, bool modal);
     void Run(const std::function<void()>& handler);
+    void Settle();
     Refusal Trigger(Control& control);
     bool PressShortcut(Form& form, const Key& key);
     bool PressButton(Form& form, const Key& key);

@@ -28,6 +28,12 @@ public:
     virtual void Unload(Form& form) = 0;
     /// Ends the program at once: nothing more runs, and the call does not come back.
     virtual void End() = 0;
+
+    /// The form before all others; null while none is shown.
+    [[nodiscard]] virtual Form* Front() const = 0;
+
+    /// Called whenever an event has run to its end or a modal form begins to wait, before what has changed is shown.
+    std::function<void()> OnSettled;
 };
 
 class Dialogs {
@@ -129,6 +135,17 @@ public:
     virtual bool Remove(std::string_view name) = 0;
 };
 
+/// For players who listen.
+class Speech {
+public:
+    virtual ~Speech() = default;
+
+    /// Whether anybody listens; where nobody does, nothing need be said.
+    [[nodiscard]] virtual bool IsHeard() const = 0;
+    /// Speaks a text after those before it.
+    virtual void Say(TextView text) = 0;
+};
+
 /// All services of a platform, for the place that puts the program together.
 struct Services {
     platform::Forms& Forms;
@@ -139,6 +156,7 @@ struct Services {
     platform::Media& Media;
     platform::Web& Web;
     platform::Files& Files;
+    platform::Speech& Speech;
 };
 
 /// A number from 1 to n, all equally likely, from a generator seeded anew from the clock.

@@ -5,6 +5,7 @@
 #include "records/Diario.h"
 #include "shell/Teclado.h"
 #include "stage/Escena.h"
+#include "voice/Nombres.h"
 #include "windows/PaginaWeb.h"
 
 namespace juego {
@@ -16,6 +17,7 @@ Juego::Juego(const Services& services)
                 [this] { partida.NuevoReanudar(); }}) {
     ConectarVentana();
     ConectarMenús();
+    ConectarVoz();
 }
 
 void Juego::Start() {
@@ -60,6 +62,42 @@ void Juego::ConectarMenús() {
     z.mnuCasteoInglésHonor.Click = showsBoard(5);
     z.mnuNormas.Click = shows(normas);
     z.mnuAcerca.Click = shows(acerca);
+}
+
+void Juego::ConectarVoz() {
+    NombrarVentana(z);
+    for (Form* form : Ventanas()) {
+        form->OnHelpKey = [this](const Key& key) { return key.Code == KeyF8 && (voz.RepetirEstado(), true); };
+        if (form != &z) NombrarDiálogo(*form);
+    }
+    s.Forms.OnSettled = [this] { voz.Asentar(); };
+    z.OnHelpKey = [this](const Key& key) { return TeclaDeAyuda(key); };
+}
+
+/// Keys for players without a mouse or without sight: F7 arms the joker, a digit then chooses the box (0 the tenth), F8
+/// tells how the game stands.
+bool Juego::TeclaDeAyuda(const Key& key) {
+    constexpr int kBoxes = 10;
+    if (key.Code == KeyF7) {
+        if (z.lblComodín(1).Visible) comodines.lblComodín_Click(1);
+        elegirCasilla = z.fComodín;
+        return true;
+    }
+    if (key.Code == KeyF8) {
+        voz.RepetirEstado();
+        return true;
+    }
+    elegirCasilla = elegirCasilla && z.fComodín;
+    if (!elegirCasilla || key.Character < u'0' || key.Character > u'9') return false;
+    const int digit = key.Character - u'0';
+    comodines.lblLetra_Click(digit == 0 ? kBoxes : digit);
+    return true;
+}
+
+/// The word is completed: its message is told to those who listen before the next word takes its place.
+void Juego::TerminarPalabra() {
+    voz.Retener();
+    partida.SiguientePalabra();
 }
 
 /// What follows the victory screen: the prize, then the board of the mode played.

@@ -10,6 +10,7 @@
 #include "engine/Reloj.h"
 #include "game/Campos.h"
 #include "stage/Empujador.h"
+#include "voice/Voz.h"
 #include "windows/frmAcerca.h"
 #include "windows/frmCuadro.h"
 #include "windows/frmDiploma.h"
@@ -42,6 +43,9 @@ private:
     void Form_Load();
     void ConectarVentana();
     void ConectarMenús();
+    void ConectarVoz();
+    bool TeclaDeAyuda(const Key& key);
+    void TerminarPalabra();
     void Premiar();
 
     Services s;
@@ -66,7 +70,7 @@ private:
 
     Final fin{z, s.Forms, s.Files, s.Clock, empujador, secuencias, victoria};
     Partida partida{z, s.Forms, s.Media, s.Clock, sorteo, música, comentario, fin, {nivel, tanteo, nombre}};
-    Letras letras{z, s.Dialogs, empujador, secuencias, fin, [this] { partida.SiguientePalabra(); }};
+    Letras letras{z, s.Dialogs, empujador, secuencias, fin, [this] { TerminarPalabra(); }};
     Comodines comodines{z, s.Media, letras};
     Reloj reloj{z, s.Forms, s.Media, s.Clock, fin};
 
@@ -75,6 +79,8 @@ private:
     frmPresenta presenta{z, s.Forms};
     frmNormas normas{s.Forms};
     frmAcerca acerca{z, s.Forms, s.Media, s.Web};
+    Voz voz{z, s.Forms, s.Speech};
+    bool elegirCasilla = false;  ///< the joker has been armed by its key: digits choose the box
 };
 
 }  // namespace juego

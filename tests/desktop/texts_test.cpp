@@ -103,6 +103,7 @@ public:
     void Hide(Form& /*form*/) override {}
     void Unload(Form& /*form*/) override {}
     void End() override {}
+    [[nodiscard]] Form* Front() const override { return nullptr; }
 };
 
 TEST(Texts, TheBriefingsFit) {

@@ -1,0 +1,133 @@
+#include "voice/Contenidos.h"
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+
+#include "voice/Palabras.h"
+
+namespace juego {
+
+namespace {
+
+/// What a window says of itself: a text of its own, then the names of these elements, as far as they are seen.
+struct Contenido {
+    std::string_view Form;
+    TextView Texto;
+    std::array<std::string_view, 9> Elementos;
+};
+constexpr auto kContents = std::to_array<Contenido>({
+    {"frmNivel", u"", {"Label4", "Label2"}},
+    {"frmPuntos", u"", {"Label5", "Label1", "Label2", "Label4"}},
+    {"frmNombre", u"Escribe tu nombre, o los vuestros con una y entre ellos.", {}},
+    {"frmGuardar", u"Escribe una contraseña, y repítela en la casilla siguiente.", {}},
+    {"frmReanudar", u"", {"Label1", "Label2", "Label17", "Label9", "Label3", "Label11", "Label13", "Label15"}},
+    {"frmFecha", u"", {"Label1", "Label3"}},
+    {"frmDiploma",
+     u"Diploma de Zarpi. La flecha izquierda abre las cortinas.",
+     {"Text1", "Text2", "Text3", "Text4", "Text5"}},
+    {"frmCuadro", u"", {"Label2"}},
+});
+
+/// A list of ten rows: its columns, each with what follows its value.
+struct Columna {
+    std::string_view Elemento;
+    TextView Detrás;
+};
+struct Lista {
+    std::string_view Form;
+    std::array<Columna, 7> Columnas;
+};
+constexpr auto kLists = std::to_array<Lista>({
+    {"frmCuadro",
+     {{{"lblZarpis", u" zarpis"},
+       {"lblNombre", u""},
+       {"lblPlenos", u" plenos"},
+       {"lblTiempo", u""},
+       {"lblFecha", u""}}}},
+    {"frmÚltimas",
+     {{{"lblPalabra", u" de 30"},
+       {"lblNombre", u""},
+       {"lblZarpis", u" zarpis"},
+       {"lblPlenos", u" plenos"},
+       {"lblModo", u""},
+       {"lblTiempo", u""},
+       {"lblFecha", u""}}}},
+});
+constexpr int kRows = 10;
+
+/// The rules and About are read as they stand, heading before paragraph.
+constexpr std::array<std::string_view, 2> kReadWhole = {"frmNormas", "frmAcerca"};
+
+Text Nombre(const Control& control) {
+    if (control.kind != Kind::TextBox) return SpokenNameOf(control);
+    return SpokenNameOf(control) + u": " + static_cast<const TextBox&>(control).Text;
+}
+
+Text Frase(Text text) {
+    constexpr TextView kEnds = u".!?:";
+    text = Trim(text);
+    if (!text.empty() && kEnds.find(text.back()) == TextView::npos) text += u'.';
+    return text;
+}
+
+void Añadir(Text& said, const Text& sentence) {
+    if (sentence.empty()) return;
+    if (!said.empty()) said += u' ';
+    said += sentence;
+}
+
+Text Fila(const Form& form, const Lista& list, int row) {
+    Text said;
+    for (const Columna& column : list.Columnas) {
+        if (column.Elemento.empty()) break;
+        const auto& cell =
+            static_cast<const Label&>(*form.Find(std::string(column.Elemento) + "(" + std::to_string(row) + ")"));
+        if (!cell.Visible) return {};
+        const bool number = !cell.Caption.empty() && cell.Caption.front() >= u'0' && cell.Caption.front() <= u'9';
+        said += (said.empty() ? u"" : u", ") + cell.Caption + (number ? Text(column.Detrás) : Text());
+    }
+    return Decimal(row) + u": " + said + u".";
+}
+
+Text Entera(const Form& form) {
+    std::vector<const Control*> labels;
+    for (const Control* control : form.Controls()) {
+        if (control->kind == Kind::Label) labels.push_back(control);
+    }
+    // In columns from left to right; a heading begins above its paragraph, or on its first line.
+    constexpr int kColumn = 3000;
+    const bool inColumns = form.Width > 3 * kColumn;
+    const auto place = [inColumns](const Control* c) {
+        const bool acrossAll = !inColumns || c->Width > 2 * kColumn || c->Top < kColumn;
+        return std::tuple(acrossAll ? -1 : c->Left / kColumn, c->Top, c->Left, c->Width);
+    };
+    std::ranges::sort(labels, {}, place);
+    Text said;
+    for (const Control* label : labels) Añadir(said, Frase(SpokenNameOf(*label)));
+    return said;
+}
+
+}  // namespace
+
+Text ContenidoDe(const Form& form) {
+    if (std::ranges::find(kReadWhole, form.Name) != kReadWhole.end()) return Entera(form);
+    Text said;
+    for (const Contenido& content : kContents) {
+        if (content.Form != form.Name) continue;
+        said = content.Texto;
+        for (const std::string_view name : content.Elementos) {
+            const Control* const element = name.empty() ? nullptr : form.Find(name);
+            if (element != nullptr && element->Visible) Añadir(said, Frase(Nombre(*element)));
+        }
+    }
+    for (const Lista& list : kLists) {
+        if (list.Form != form.Name) continue;
+        Text rows;
+        for (int row = 1; row <= kRows; ++row) Añadir(rows, Fila(form, list, row));
+        Añadir(said, rows.empty() ? Text(u"No hay ninguna partida.") : rows);
+    }
+    return said;
+}
+
+}  // namespace juego
