@@ -78,7 +78,7 @@ TYPED_TEST_P(ContratoArchivos, AFileWithoutRightsIsStillThere) {
     auto& files = this->files;
     const std::string rows(2 * juego::FilaÚltima::Largo, 'x');
     ASSERT_TRUE(files.WriteAt("Part.rnd", 0, rows));
-    ASSERT_TRUE(files.Replace("UltPart.dat", " 2 \r\n"));
+    ASSERT_TRUE(files.Replace("UltPart.dat", " 3 \r\n"));  // one more than there are
     constexpr mode_t kAll = 0777;
     // The file closed, to be read only, to be written only; then its folder.
     for (const auto& [file, dir] : std::initializer_list<std::pair<mode_t, mode_t>>{
@@ -95,9 +95,13 @@ TYPED_TEST_P(ContratoArchivos, AFileWithoutRightsIsStillThere) {
         chmod(".", kAll);
         chmod("Part.rnd", kAll);
         EXPECT_EQ(files.Read("Part.rnd"), rows) << file << ' ' << dir;
-        EXPECT_EQ(files.Read("UltPart.dat"), " 2 \r\n") << file << ' ' << dir;
+        EXPECT_EQ(files.Read("UltPart.dat"), " 3 \r\n") << file << ' ' << dir;
         EXPECT_FALSE(files.Exists("Diario.tmp")) << file << ' ' << dir;
     }
+    ASSERT_TRUE(files.Replace("Diario.tmp", ""));
+    chmod("Diario.tmp", 0000);
+    const SinPrivilegios none;
+    EXPECT_FALSE(juego::Diario::Recuperar(files));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(ContratoArchivos, StoresAndReads, TellsFailures, AFileWithoutRightsIsStillThere);

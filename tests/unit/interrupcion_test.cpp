@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Carpeta.h"
 #include "game/Modos.h"
 #include "headless/Headless.h"
 #include "headless/MemoryFiles.h"
@@ -37,7 +38,7 @@ public:
         return Works() && inner.WriteAt(name, offset, bytes);
     }
     bool Replace(std::string_view name, std::string_view content) override {
-        return Works() && inner.Replace(name, content);
+        return Works() && !(full && inner.Exists(name)) && inner.Replace(name, content);
     }
     bool Remove(std::string_view name) override { return Works() && inner.Remove(name); }
 
@@ -48,13 +49,17 @@ public:
     MemoryFiles inner;
     Plan plan;
     int operations = 0;
+    int lastFault = -1;
+    bool full = false;  ///< no file can be replaced any more; there is room for a journal alone
 
 private:
     bool stopped_ = false;
 
     bool Works() {
         if (stopped_) return false;
-        const Fault fault = plan ? plan(operations++) : Fault::None;
+        const Fault fault = plan ? plan(operations) : Fault::None;
+        if (fault != Fault::None) lastFault = operations;
+        ++operations;
         stopped_ = fault == Fault::Stops;
         return fault == Fault::None;
     }
@@ -297,8 +302,10 @@ public:
         unsigned done = 0;
         unsigned unknown = 0;  // stopped, be it before or after its last step
         for (unsigned k = 0; k < changes_.size(); ++k) {
+            const int begin = files.operations;
             if (changes_[k](files)) done |= 1U << k;
             if (files.Stopped()) unknown |= 1U << k;
+            if (files.lastFault < begin && (done >> k & 1U) == 0) return "refused on a sound disk";
             files.Restart();
         }
         operations_ = files.operations;
@@ -342,6 +349,33 @@ TEST(Diario, LosesNothingToFaultsThatComeAndGo) {
             }
         }
     }
+}
+
+TEST(Diario, OnAFullDiskAChangeThatFailsLeavesNothingBehind) {
+    BrittleFiles files;
+    Fill(files.inner, kRows);
+    const std::string before = SeenAll(files);
+    files.full = true;
+    EXPECT_EQ(AnotarPartida(files, Last(u"FINAL")), std::nullopt);
+    EXPECT_EQ(SeenAll(files), before);
+    EXPECT_FALSE(files.Exists("Diario.tmp"));
+}
+
+TEST(Diario, NothingIsChangedWhileOneWaits) {
+    const Carpeta folder;
+    platform::headless::FolderFiles files;
+    Fill(files, kRows);
+    const std::string before = SeenAll(files);
+    std::filesystem::create_directory("CoI.rnd");  // in the way of its restoration
+    const std::string journal = "CoI.rnd 0\nUltCoI.dat 5\n 0 \r\n";
+    ASSERT_TRUE(files.Replace("Diario.tmp", journal));
+    for (const CambioDeArchivos change : kFileChanges) EXPECT_FALSE(change(files));
+    EXPECT_FALSE(GuardarPartida(files, kRows, Game(u"Nueva")));
+    EXPECT_FALSE(LeerPartida(files, 1)) << "it may be another game's record";
+    EXPECT_EQ(SeenAll(files), before);
+    EXPECT_EQ(files.Read("Diario.tmp"), journal);
+    std::filesystem::remove("CoI.rnd");
+    for (const CambioDeArchivos change : kFileChanges) EXPECT_TRUE(change(files));
 }
 
 TEST(Diario, IsNotTrusted) {
