@@ -7,6 +7,7 @@
 
 #include "headless/FolderFiles.h"
 #include "headless/Player.h"
+#include "records/Archivos.h"
 #include "shell/Juego.h"
 
 namespace {
@@ -15,8 +16,16 @@ constexpr int kFailed = 1;
 constexpr int kUnreadable = 2;
 
 int Fail(std::string_view why) {
-    std::cerr << "zarpi-script: " << why << "\nusage: zarpi-script [--folder DIR] [FILE]\n";
+    std::cerr << "zarpi-script: " << why << "\nusage: zarpi-script [--folder DIR | --new-folder DIR] [FILE]\n";
     return kUnreadable;
+}
+
+/// Makes the folder where it is not there, and a game folder of it, as an installation leaves it.
+void EnterNew(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    std::filesystem::current_path(folder);
+    platform::headless::FolderFiles files;
+    if (!juego::EstrenarCarpeta(files)) throw std::runtime_error("the new folder cannot be written");
 }
 
 int Play(std::istream& script) {
@@ -43,9 +52,11 @@ int main(int argc, char** argv) try {
     std::ifstream file;
     bool fromFile = false;
     std::filesystem::path folder;
+    bool isNew = false;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == "--folder") {
-            if (++i == arguments.size()) return Fail("--folder needs a folder");
+        if (arguments[i] == "--folder" || arguments[i] == "--new-folder") {
+            isNew = arguments[i] == "--new-folder";
+            if (++i == arguments.size()) return Fail("a folder is missing");
             folder = arguments[i];
         } else if (!fromFile && !arguments[i].starts_with('-')) {
             fromFile = true;
@@ -55,7 +66,8 @@ int main(int argc, char** argv) try {
             return Fail("not understood: " + std::string(arguments[i]));
         }
     }
-    if (!folder.empty()) std::filesystem::current_path(folder);
+    if (isNew) EnterNew(folder);
+    if (!isNew && !folder.empty()) std::filesystem::current_path(folder);
     return Play(fromFile ? file : std::cin);
 } catch (const std::exception& error) {
     return Fail(error.what());

@@ -3,11 +3,12 @@
 #include <cstdlib>
 
 #include "desktop/Desktop.h"
+#include "records/Archivos.h"
 #include "shell/Juego.h"
 
 int main(int argc, char** argv) {
     platform::desktop::Desktop desktop(argc, argv);
-    if (!desktop.EnterFolder()) return EXIT_FAILURE;
+    if (!desktop.EnterFolder(juego::EstrenarCarpeta)) return EXIT_FAILURE;
     juego::Juego juego(desktop.Services());
     juego.Start();
     return desktop.Run();

@@ -48,7 +48,7 @@ class Desktop::Parts {
 public:
     Parts(int& argc, char** argv);
 
-    bool EnterFolder();
+    bool EnterFolder(const GameFolder::Furnisher& furnish);
     int Run();
     platform::Services& Services() { return services_; }
 
@@ -93,9 +93,9 @@ Desktop::Parts::Parts(int& argc, char** argv)
     };
 }
 
-bool Desktop::Parts::EnterFolder() {
+bool Desktop::Parts::EnterFolder(const GameFolder::Furnisher& furnish) {
     QApplication::setApplicationName("zarpi");
-    const bool free = folder_.Enter(GameFolder::SystemPlaces());
+    const bool free = folder_.Enter(GameFolder::SystemPlaces(), furnish);
     if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
     return free;
 }
@@ -140,8 +140,8 @@ platform::Services& Desktop::Services() {
     return parts_->Services();
 }
 
-bool Desktop::EnterFolder() {
-    return parts_->EnterFolder();
+bool Desktop::EnterFolder(const GameFolder::Furnisher& furnish) {
+    return parts_->EnterFolder(furnish);
 }
 
 int Desktop::Run() {

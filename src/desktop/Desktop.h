@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/Services.h"
@@ -24,7 +25,8 @@ public:
 
     /// Settles the game folder, which is the current one from here on. False, and the player told, if a game is already
     /// running there. To be called before anything is read or stored.
-    bool EnterFolder();
+    /// `furnish` stores what a new folder begins with.
+    bool EnterFolder(const std::function<bool(Files&)>& furnish);
 
     /// What the game works with; lives as long as this does.
     platform::Services& Services();

@@ -1,8 +1,8 @@
 #include "desktop/DurableFiles.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
+#include <filesystem>
 
 #include "desktop/Strings.h"
 
@@ -44,6 +44,12 @@ std::string ToBytes(const QByteArray& bytes) {
 
 }  // namespace
 
+bool DurableFiles::Exists(std::string_view name) {
+    std::error_code error;
+    const auto type = std::filesystem::status(QFile(ToQt(name)).filesystemFileName(), error).type();
+    return type != std::filesystem::file_type::not_found && type != std::filesystem::file_type::directory;
+}
+
 std::optional<std::string> DurableFiles::Read(std::string_view name) {
     QFile file(ToQt(name));
     if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
@@ -54,7 +60,7 @@ std::optional<std::string> DurableFiles::Read(std::string_view name) {
 
 std::optional<std::string> DurableFiles::ReadAt(std::string_view name, std::int64_t offset, std::size_t length) {
     QFile file(ToQt(name));
-    const QIODevice::OpenMode mode = file.exists() ? QIODevice::ReadOnly : QIODevice::ReadWrite;
+    const QIODevice::OpenMode mode = Exists(name) ? QIODevice::ReadOnly : QIODevice::ReadWrite;
     if (!file.open(mode)) return std::nullopt;
     if (offset >= file.size()) return std::string();
     if (!file.seek(offset)) return std::nullopt;
@@ -65,7 +71,7 @@ std::optional<std::string> DurableFiles::ReadAt(std::string_view name, std::int6
 
 bool DurableFiles::WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) {
     QFile file(ToQt(name));
-    const bool isNew = !file.exists();
+    const bool isNew = !Exists(name);
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !file.seek(offset)) return false;
     const auto length = static_cast<qint64>(bytes.size());
     if (file.write(bytes.data(), length) != length || !Sync(file.handle())) return false;
@@ -87,9 +93,8 @@ bool DurableFiles::Replace(std::string_view name, std::string_view content) {
 }
 
 bool DurableFiles::Remove(std::string_view name) {
-    const QString path = ToQt(name);
-    if (!QFileInfo(path).isFile()) return true;
-    if (!QFile::remove(path)) return false;
+    if (!Exists(name)) return true;
+    if (!QFile::remove(ToQt(name))) return false;
     SyncFolder();
     return true;
 }

@@ -7,6 +7,7 @@ namespace platform::desktop {
 /// Files of the current folder, on the disk before a call comes back.
 class DurableFiles : public Files {
 public:
+    bool Exists(std::string_view name) override;
     std::optional<std::string> Read(std::string_view name) override;
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;

@@ -8,17 +8,14 @@
 #include <algorithm>
 #include <array>
 
+#include "desktop/DurableFiles.h"
+
 namespace platform::desktop {
 
 namespace {
 
 /// The files that tell a game folder; one is enough, so that a damaged one is played in and told.
 constexpr std::array<const char*, 2> kMarks = {"Zarpi1.bmp", "Ultimo.dat"};
-
-/// The counters of stored games and lists; the game reads them and never makes them itself.
-constexpr std::array<const char*, 7> kCounters = {"Ultimo.dat", "UltPart.dat", "UltCeI.dat", "UltIyC.dat",
-                                                  "UltCas.dat", "UltIng.dat",  "UltCoI.dat"};
-constexpr const char* kZero = " 0 \r\n";
 
 bool HoldsTheGame(const QString& folder) {
     return std::ranges::any_of(kMarks, [&folder](const char* mark) { return QFile::exists(folder + '/' + mark); });
@@ -33,21 +30,23 @@ bool Copy(const QString& from, const QString& into) {
     });
 }
 
-bool WriteCounters(const QString& folder) {
-    return std::ranges::all_of(kCounters, [&folder](const char* counter) {
-        QFile file(folder + '/' + counter);
-        return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(kZero) > 0;
-    });
+bool FurnishIn(const QString& folder, const GameFolder::Furnisher& furnish) {
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder);
+    DurableFiles files;
+    const bool done = furnish(files);
+    QDir::setCurrent(before);
+    return done;
 }
 
 /// Makes the player's folder out of the shared one. It is put together aside and gets its name when it is complete: a
 /// folder of that name is never half furnished, and never furnished again.
-void Furnish(const QString& own, const QString& shared) {
+void Furnish(const QString& own, const QString& shared, const GameFolder::Furnisher& furnish) {
     if (!QFile::exists(shared + '/' + kMarks[0])) return;
     const QDir parent = QFileInfo(own).dir();
     parent.mkpath(".");
     QTemporaryDir aside(own + ".XXXXXX");
-    if (!aside.isValid() || !Copy(shared, aside.path()) || !WriteCounters(aside.path())) return;
+    if (!aside.isValid() || !Copy(shared, aside.path()) || !FurnishIn(aside.path(), furnish)) return;
     QFile::setPermissions(aside.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QDir().rmdir(own);  // an empty one would be in the way
     if (QDir().rename(aside.path(), own)) aside.setAutoRemove(false);
@@ -64,14 +63,14 @@ GameFolder::Places GameFolder::SystemPlaces() {
     return {program, shared, QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)};
 }
 
-bool GameFolder::Enter(const Places& places) {
+bool GameFolder::Enter(const Places& places, const Furnisher& furnish) {
     if (HoldsTheGame(QDir::currentPath())) return Lock();
     if (HoldsTheGame(places.Program)) {
         QDir::setCurrent(places.Program);
         return Lock();
     }
     const bool furnished = QFile::exists(places.Own + '/' + kMarks[0]);
-    if (!furnished) Furnish(places.Own, places.Shared);
+    if (!furnished) Furnish(places.Own, places.Shared, furnish);
     if (QFile::exists(places.Own + '/' + kMarks[0])) QDir::setCurrent(places.Own);
     return Lock();
 }

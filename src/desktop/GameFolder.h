@@ -2,7 +2,10 @@
 
 #include <QLockFile>
 #include <QString>
+#include <functional>
 #include <memory>
+
+#include "platform/Services.h"
 
 namespace platform::desktop {
 
@@ -20,9 +23,12 @@ public:
     /// The places of an installed program on this system.
     static Places SystemPlaces();
 
+    /// Stores what a new folder of the game begins with. False on failure.
+    using Furnisher = std::function<bool(Files& files)>;
+
     /// Makes the game folder the current one and keeps other programs out of it. Where nothing is to be found or to be
     /// furnished it stays where it is. False if a game is already running there.
-    bool Enter(const Places& places);
+    bool Enter(const Places& places, const Furnisher& furnish);
     /// Lets the next program in.
     void Leave();
 

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace platform::headless {
 
@@ -10,12 +10,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The file open for reading and writing, created when it is not there.
-std::fstream OpenRecordFile(const fs::path& path) {
-    constexpr auto kMode = std::ios::in | std::ios::out | std::ios::binary;
-    std::fstream file(path, kMode);
-    if (!file.is_open()) file.open(path, kMode | std::ios::trunc);
-    return file;
+/// Makes an empty file; one that is there after all keeps its content.
+bool Create(const fs::path& path) {
+    return std::ofstream(path, std::ios::binary | std::ios::app).is_open();
 }
 
 }  // namespace
@@ -24,25 +21,37 @@ fs::path PathOf(std::string_view name) {
     return {std::u8string(name.begin(), name.end())};
 }
 
+bool FolderFiles::Exists(std::string_view name) {
+    std::error_code error;
+    const auto type = fs::status(PathOf(name), error).type();
+    return type != fs::file_type::not_found && type != fs::file_type::directory;
+}
+
 std::optional<std::string> FolderFiles::Read(std::string_view name) {
-    if (!fs::is_regular_file(PathOf(name))) return std::nullopt;
-    std::ifstream file(PathOf(name), std::ios::binary);
-    if (!file) return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    if (!Exists(name)) return std::nullopt;
+    const std::ifstream file(PathOf(name), std::ios::binary);
+    std::ostringstream content;
+    content << file.rdbuf();
+    if (!file || content.bad()) return std::nullopt;
+    return content.str();
 }
 
 std::optional<std::string> FolderFiles::ReadAt(std::string_view name, std::int64_t offset, std::size_t length) {
-    std::fstream file = OpenRecordFile(PathOf(name));
+    if (!Exists(name) && !Create(PathOf(name))) return std::nullopt;
+    std::ifstream file(PathOf(name), std::ios::binary);
     if (!file) return std::nullopt;
     std::string bytes(length, '\0');
     file.seekg(offset);
     file.read(bytes.data(), static_cast<std::streamsize>(length));
+    if (file.bad()) return std::nullopt;
     bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
     return bytes;
 }
 
 bool FolderFiles::WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) {
-    std::fstream file = OpenRecordFile(PathOf(name));
+    if (!Exists(name) && !Create(PathOf(name))) return false;
+    // Opened for reading too, which keeps what the file holds.
+    std::fstream file(PathOf(name), std::ios::in | std::ios::out | std::ios::binary);
     file.seekp(offset);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return static_cast<bool>(file.flush());
@@ -65,7 +74,7 @@ bool FolderFiles::Replace(std::string_view name, std::string_view content) {
 
 bool FolderFiles::Remove(std::string_view name) {
     std::error_code error;
-    if (fs::is_regular_file(PathOf(name))) fs::remove(PathOf(name), error);
+    if (Exists(name)) fs::remove(PathOf(name), error);
     return !error;
 }
 

@@ -13,6 +13,7 @@ std::filesystem::path PathOf(std::string_view name);
 /// failure, as the contract of a real platform asks.
 class FolderFiles : public Files {
 public:
+    bool Exists(std::string_view name) override;
     std::optional<std::string> Read(std::string_view name) override;
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;

@@ -4,6 +4,10 @@
 
 namespace platform::headless {
 
+bool MemoryFiles::Exists(std::string_view name) {
+    return files_.contains(name);
+}
+
 std::optional<std::string> MemoryFiles::Read(std::string_view name) {
     const auto file = files_.find(name);
     return file == files_.end() ? std::nullopt : std::optional(file->second);

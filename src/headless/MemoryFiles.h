@@ -9,6 +9,7 @@ namespace platform::headless {
 /// Files that live in memory alone.
 class MemoryFiles : public Files {
 public:
+    bool Exists(std::string_view name) override;
     std::optional<std::string> Read(std::string_view name) override;
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;

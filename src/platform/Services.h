@@ -121,7 +121,9 @@ class Files {
 public:
     virtual ~Files() = default;
 
-    /// The whole content; nothing when the file cannot be read.
+    /// Whether a file of this name is there, readable or not; also true where that cannot be told. A folder is no file.
+    virtual bool Exists(std::string_view name) = 0;
+    /// The whole content; nothing when the file cannot be read, be it there or not.
     virtual std::optional<std::string> Read(std::string_view name) = 0;
     /// Up to `length` bytes from an offset, fewer at the end of the file. A file that is not there is created empty.
     /// Nothing when that fails.
@@ -131,7 +133,7 @@ public:
     virtual bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) = 0;
     /// Replaces the content in one step: at any moment the file holds the old content or the new. False on failure.
     virtual bool Replace(std::string_view name, std::string_view content) = 0;
-    /// Removes a file; that there is none of this name is no failure.
+    /// Removes a file; that there is none of this name is no failure. False if it is still there.
     virtual bool Remove(std::string_view name) = 0;
 };
 

@@ -1,6 +1,5 @@
 #include "platform/Text.h"
 
-#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -21,11 +20,18 @@ struct Decoded {
     std::size_t length;
 };
 
+/// The smallest character that needs this many bytes; one in more bytes than it needs is ill-formed.
+constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+
+constexpr bool IsCharacter(char32_t character) {
+    return character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF);
+}
+
 /// The first character of UTF-8 bytes that are not empty; ill-formed bytes are taken one by one.
 Decoded DecodeFirst(std::string_view bytes) {
     const auto lead = static_cast<unsigned char>(bytes[0]);
     if (lead < 0x80) return {lead, 1};
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
+    const std::size_t length = lead >= 0xF8 ? 0 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
     if (length == 0 || length > bytes.size()) return {kReplacement, 1};
     char32_t character = lead & (0xFFU >> (length + 1));
     for (std::size_t i = 1; i < length; ++i) {
@@ -33,6 +39,7 @@ Decoded DecodeFirst(std::string_view bytes) {
         if ((next & 0xC0U) != 0x80) return {kReplacement, 1};
         character = (character << 6U) | (next & 0x3FU);
     }
+    if (character < kSmallest.at(length) || !IsCharacter(character)) return {kReplacement, 1};
     return {character, length};
 }
 
@@ -77,10 +84,8 @@ Text FromWindows1252(std::string_view bytes) {
 }
 
 std::optional<unsigned char> ToWindows1252(char16_t character) {
-    const auto* special = std::ranges::find(kSpecials, character);
-    if (special != kSpecials.end()) {
-        return static_cast<unsigned char>(kFirstSpecial + (special - kSpecials.begin()));
-    }
+    const auto special = TextView(kSpecials.data(), kSpecials.size()).find(character);
+    if (special != TextView::npos) return static_cast<unsigned char>(kFirstSpecial + special);
     if (character > 0xFF || (character >= 0x80 && character < 0xA0)) return std::nullopt;
     return static_cast<unsigned char>(character);
 }

@@ -17,28 +17,40 @@ using namespace platform;  // the vocabulary of texts and files
 struct Par {
     std::string_view Contador;
     std::string_view Registros;
-    int Límite;  ///< the highest count it can have
+    int Límite;         ///< the highest count it can have
+    std::size_t Largo;  ///< bytes of a record
 };
 
 constexpr int LímiteFilas = 10;
+constexpr std::size_t LargoFilaHonor = 42;
 
-inline constexpr Par ArchivoGuardadas = {"Ultimo.dat", "Guardar.rnd", 32767};
-inline constexpr Par ArchivoÚltimas = {"UltPart.dat", "Part.rnd", LímiteFilas};
+inline constexpr Par ArchivoGuardadas = {"Ultimo.dat", "Guardar.rnd", 32767, 65};
+inline constexpr Par ArchivoÚltimas = {"UltPart.dat", "Part.rnd", LímiteFilas, 57};
 
 /// The honour boards, by mode number from 1.
 inline constexpr std::array<Par, 5> ArchivosHonor = {{
-    {"UltCeI.dat", "CeI.rnd", LímiteFilas},
-    {"UltIyC.dat", "IyC.rnd", LímiteFilas},
-    {"UltCas.dat", "Cas.rnd", LímiteFilas},
-    {"UltIng.dat", "Ingl.rnd", LímiteFilas},
-    {"UltCoI.dat", "CoI.rnd", LímiteFilas},
+    {"UltCeI.dat", "CeI.rnd", LímiteFilas, LargoFilaHonor},
+    {"UltIyC.dat", "IyC.rnd", LímiteFilas, LargoFilaHonor},
+    {"UltCas.dat", "Cas.rnd", LímiteFilas, LargoFilaHonor},
+    {"UltIng.dat", "Ingl.rnd", LímiteFilas, LargoFilaHonor},
+    {"UltCoI.dat", "CoI.rnd", LímiteFilas, LargoFilaHonor},
 }};
 
-/// The number in the counter of a pair, 0 to its limit; nothing when the file cannot be read or is empty. A number
+/// Everything that is stored.
+inline constexpr std::array<Par, 7> Pares = {ArchivoGuardadas, ArchivoÚltimas,   ArchivosHonor[0], ArchivosHonor[1],
+                                             ArchivosHonor[2], ArchivosHonor[3], ArchivosHonor[4]};
+
+/// The number in the content of a counter, 0 to the limit of its pair; nothing when the content is empty. A number
 /// above ten in a list of ten counts as ten; one that no 16-bit counter holds is a failure.
+std::optional<int> NúmeroDeContador(std::string_view content, const Par& par);
+
+/// The number in the counter of a pair; nothing also when the file cannot be read.
 std::optional<int> LeerContador(Files& files, const Par& par);
 
 /// Replaces the counter of a pair in one step. False on failure.
 bool EscribirContador(Files& files, const Par& par, int count);
+
+/// Furnishes a new game folder: every counter that is not there comes into being with 0. False on failure.
+bool EstrenarCarpeta(Files& files);
 
 }  // namespace juego

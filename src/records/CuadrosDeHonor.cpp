@@ -3,7 +3,7 @@
 namespace juego {
 
 bool InsertarEnCuadro(Files& files, const Par& board, const FilaHonor& row) {
-    const auto count = LeerContador(files, board);
+    const auto count = ContarParaCambiar(files, board);
     if (!count) return false;
     ArchivoRegistros<FilaHonor> rows(files, board);
     // The row above the new one: the lowest with at least as many zarpis.
@@ -17,13 +17,10 @@ bool InsertarEnCuadro(Files& files, const Par& board, const FilaHonor& row) {
 }
 
 bool RestablecerCuadro(Files& files, const Par& board) {
+    if (!ContarParaCambiar(files, board)) return false;
     Diario diario(files, board);
     ArchivoRegistros<FilaHonor> rows(files, board);
-    if (!diario.Anotado()) return false;
-    for (int k = 1; k <= board.Límite; ++k) {
-        if (!rows.Vaciar(k)) return false;
-    }
-    return EscribirContador(files, board, 0) && diario.Confirmar();
+    return diario.Anotado() && rows.Vaciar(board.Límite) && EscribirContador(files, board, 0) && diario.Confirmar();
 }
 
 }  // namespace juego

@@ -1,5 +1,6 @@
 #include "records/Diario.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace juego {
@@ -7,39 +8,104 @@ namespace juego {
 namespace {
 
 constexpr std::string_view kName = "Diario.tmp";
+constexpr std::string_view kSetAside = "Diario.mal";
+constexpr int kMostSetAside = 99;
+constexpr int kNotThere = -1;  ///< the length of a file that does not exist
 
-/// One file in the journal: its name, its length and its bytes. A file that was not there has the length -1.
-std::string Entry(Files& files, std::string_view name) {
-    const auto content = files.Read(name);
-    const std::string length = content ? std::to_string(content->size()) : "-1";
-    return std::string(name) + " " + length + "\n" + content.value_or("");
+/// What a journal holds: the pair it is about, its records that counted, and its counter.
+struct Contenido {
+    const Par* Cuál;
+    std::string_view Registros;
+    std::string_view Contador;
+    int Cuenta;
+};
+
+std::string Entry(std::string_view name, std::string_view content) {
+    return std::string(name) + ' ' + std::to_string(content.size()) + '\n' + std::string(content);
 }
 
-/// Gives a file the content of its entry at the head of the journal and takes the entry away. False when the journal is
-/// at its end, or when it cannot be done.
-bool RestoreFirst(Files& files, std::string_view& journal) {
-    const auto blank = journal.find(' ');
+/// The journal of a pair as it is now; nothing if it cannot be read.
+std::optional<std::string> JournalOf(Files& files, const Par& par) {
+    const auto counter = files.Read(par.Contador);
+    const auto count = counter ? NúmeroDeContador(*counter, par) : std::nullopt;
+    if (!count) return std::nullopt;
+    const auto records = files.ReadAt(par.Registros, 0, static_cast<std::size_t>(*count) * par.Largo);
+    if (!records) return std::nullopt;
+    return Entry(par.Registros, *records) + Entry(par.Contador, *counter);
+}
+
+/// Takes the entry of a file from the head of a journal: its content. Nothing if it is none, or longer than the file
+/// can have been.
+std::optional<std::string_view> TakeEntry(std::string_view& journal, std::string_view name, std::size_t longest) {
     const auto end = journal.find('\n');
-    if (end == std::string_view::npos || blank >= end) return false;
-    const std::string_view name = journal.substr(0, blank);
+    if (end == std::string_view::npos || !journal.starts_with(name) || journal[name.size()] != ' ') return std::nullopt;
+    const char* const lengthEnd = journal.data() + end;
     int length = 0;
-    std::from_chars(journal.data() + blank + 1, journal.data() + end, length);
+    const auto number = std::from_chars(journal.data() + name.size() + 1, lengthEnd, length);
+    if (number.ec != std::errc() || number.ptr != lengthEnd || length < kNotThere) return std::nullopt;
     journal.remove_prefix(end + 1);
-    if (length < 0) return files.Remove(name);
-    const std::string_view content = journal.substr(0, static_cast<std::size_t>(length));
-    journal.remove_prefix(content.size());
-    // A counter changes in one step. Records go back to their places, which need no room that a full disk has not.
-    return name.ends_with(".dat") ? files.Replace(name, content) : files.WriteAt(name, 0, content);
+    const auto size = static_cast<std::size_t>(std::max(length, 0));
+    if (size > longest || size > journal.size()) return std::nullopt;
+    const auto content = journal.substr(0, size);
+    journal.remove_prefix(size);
+    return content;
+}
+
+/// A journal of this pair as the game writes it, records first, and nothing behind the counter.
+std::optional<Contenido> ParseAs(const Par& par, std::string_view journal) {
+    // One record more than the list holds may lie in its file: the one that fell off.
+    const auto longest = static_cast<std::size_t>(par.Límite + 1) * par.Largo;
+    const auto records = TakeEntry(journal, par.Registros, longest);
+    const auto counter = records ? TakeEntry(journal, par.Contador, journal.size()) : std::nullopt;
+    const auto count = counter && journal.empty() ? NúmeroDeContador(*counter, par) : std::nullopt;
+    if (!count) return std::nullopt;
+    return Contenido{&par, *records, *counter, *count};
+}
+
+/// The one journal that is trusted is one that the game can have written.
+std::optional<Contenido> Parse(std::string_view journal) {
+    for (const Par& par : Pares) {
+        if (auto noted = ParseAs(par, journal)) return noted;
+    }
+    return std::nullopt;
+}
+
+/// Gives the pair back what it held. What stands there already is not written again: a full disk and a file that may
+/// only be read let it stand. Nothing is deleted; where records were missing there are blank ones, which read the same.
+bool Restore(Files& files, const Contenido& noted) {
+    const Par& par = *noted.Cuál;
+    std::string records(noted.Registros);
+    records.resize(std::max(records.size(), static_cast<std::size_t>(noted.Cuenta) * par.Largo), ' ');
+    auto present = files.ReadAt(par.Registros, 0, records.size());
+    if (!present) return false;
+    present->resize(records.size(), ' ');
+    if (*present != records && !files.WriteAt(par.Registros, 0, records)) return false;
+    return files.Read(par.Contador) == noted.Contador || files.Replace(par.Contador, noted.Contador);
+}
+
+/// Gives a journal that cannot be trusted another name, one that is free.
+bool SetAside(Files& files, const std::string& journal) {
+    for (int n = 1; n <= kMostSetAside; ++n) {
+        std::string name(kSetAside);
+        if (n > 1) name += std::to_string(n);
+        const bool kept = files.Read(name) == journal || (!files.Exists(name) && files.Replace(name, journal));
+        if (kept) return files.Remove(kName);
+    }
+    return false;
 }
 
 }  // namespace
 
 Diario::Diario(Files& files, const Par& par) : files_(files) {
-    noted_ = files_.Replace(kName, Entry(files_, par.Registros) + Entry(files_, par.Contador));
+    // A journal that waits may be the only place where its records stand whole: it is never replaced.
+    if (files_.Exists(kName)) return;
+    const auto journal = JournalOf(files_, par);
+    noted_ = journal && files_.Replace(kName, *journal);
 }
 
 Diario::~Diario() {
-    if (noted_) Recuperar(files_);
+    // What cannot be taken back now stays noted.
+    if (noted_) static_cast<void>(Recuperar(files_));
 }
 
 bool Diario::Confirmar() {
@@ -48,15 +114,16 @@ bool Diario::Confirmar() {
     return true;
 }
 
-void Diario::Recuperar(Files& files) {
+bool Diario::Recuperar(Files& files) {
     const auto journal = files.Read(kName);
-    if (!journal) return;
-    std::string_view rest = *journal;
-    while (!rest.empty()) {
-        // What could not be restored now stays noted for the next start.
-        if (!RestoreFirst(files, rest)) return;
-    }
-    files.Remove(kName);
+    if (!journal) return !files.Exists(kName);
+    const auto noted = Parse(*journal);
+    if (!noted) return SetAside(files, *journal);
+    return Restore(files, *noted) && files.Remove(kName);
+}
+
+std::optional<int> ContarParaCambiar(Files& files, const Par& par) {
+    return Diario::Recuperar(files) ? LeerContador(files, par) : std::nullopt;
 }
 
 }  // namespace juego

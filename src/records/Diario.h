@@ -4,9 +4,10 @@
 
 namespace juego {
 
-/// A change of a pair of files that takes several writes, and that an interruption may not leave half done: what the
-/// pair held is written down first. Until `Confirmar` the change can be taken back, by the destructor if a write has
-/// failed, and by the next start of the program if this one was stopped.
+/// A change of a pair of files that takes several writes, and that neither an interruption nor a fault of the disk may
+/// leave half done: what the pair held is written down first, in the journal. Until `Confirmar` the change can be taken
+/// back: by the destructor if a write has failed, and as soon as it can be done if that fails too or the program is
+/// stopped. While a journal waits for that nothing else is changed.
 ///
 ///     Diario diario(files, pair);
 ///     return diario.Anotado() && rows.AbrirHueco(...) && ... && diario.Confirmar();
@@ -23,12 +24,17 @@ public:
     /// The change stands. False if that could not be noted; it is taken back then.
     bool Confirmar();
 
-    /// Takes back a change in the middle of which the program was stopped. Called once at its start.
-    static void Recuperar(Files& files);
+    /// Takes back the change of a journal that waits. True when none waits any more. Whatever lies in its place without
+    /// being one that the game can have written is set aside as it is, as `Diario.mal`, and nothing of it is done.
+    [[nodiscard]] static bool Recuperar(Files& files);
 
 private:
     Files& files_;
     bool noted_ = false;
 };
+
+/// The number of records in a pair that is about to be changed: a change that waits is taken back first, and while that
+/// fails there is none.
+std::optional<int> ContarParaCambiar(Files& files, const Par& par);
 
 }  // namespace juego

@@ -15,6 +15,7 @@ struct Campo {
     std::size_t Offset;
     std::size_t Ancho;
     std::variant<Integer Registro::*, Text Registro::*> Dónde;
+    bool CedeSigno = false;  ///< whether a number that fills the field takes the place of its sign too
 };
 
 constexpr std::array<Campo<PartidaGuardada>, 12> kPartidaGuardada = {{
@@ -24,7 +25,7 @@ constexpr std::array<Campo<PartidaGuardada>, 12> kPartidaGuardada = {{
     {7, 3, &PartidaGuardada::Tiempo},
     {10, 4, &PartidaGuardada::puntos},
     {14, 3, &PartidaGuardada::plenos},
-    {17, 2, &PartidaGuardada::comodines},
+    {17, 2, &PartidaGuardada::comodines, true},  // room for one digit, and ten jokers are allowed
     {19, 14, &PartidaGuardada::Nombre},
     {33, 11, &PartidaGuardada::Fecha},
     {44, 10, &PartidaGuardada::Contraseña},
@@ -50,14 +51,15 @@ constexpr std::array<Campo<FilaÚltima>, 7> kFilaÚltima = {{
     {42, 11, &FilaÚltima::Fecha},
 }};
 
-/// Text for a field: numbers behind the place of their sign. A number that fills its field takes that place too, so
-/// that ten jokers keep their second digit.
-Text FieldText(const Text& value, std::size_t /*width*/) {
+/// Text for a field: numbers behind the place of their sign.
+template <class Registro>
+Text FieldText(const Text& value, const Campo<Registro>& /*field*/) {
     return value;
 }
-Text FieldText(Integer value, std::size_t width) {
+template <class Registro>
+Text FieldText(Integer value, const Campo<Registro>& field) {
     const Text digits = SignedDecimal(value);
-    return digits.size() > width ? Decimal(value) : digits;
+    return field.CedeSigno && digits.size() > field.Ancho ? Decimal(value) : digits;
 }
 
 void Assign(Text& target, TextView field) {
@@ -73,7 +75,7 @@ std::string Encode(const Registro& record, const std::array<Campo<Registro>, N>&
     for (const Campo<Registro>& field : fields) {
         std::visit(
             [&](auto member) {
-                const Text text = FieldText(record.*member, field.Ancho).substr(0, field.Ancho);
+                const Text text = FieldText(record.*member, field).substr(0, field.Ancho);
                 bytes.replace(field.Offset, text.size(), ToWindows1252(text));
             },
             field.Dónde);
@@ -86,7 +88,7 @@ void Decode(std::string bytes, Registro& record, const std::array<Campo<Registro
     bytes.resize(Registro::Largo, ' ');
     // Holes of a damaged file are bytes that no text has.
     std::ranges::replace_if(
-        bytes, [](char c) { return c >= 0 && c < ' '; }, ' ');
+        bytes, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
     const Text text = FromWindows1252(bytes);
     for (const Campo<Registro>& field : fields) {
         const TextView part = TextView(text).substr(field.Offset, field.Ancho);

@@ -11,7 +11,7 @@ namespace juego {
 
 /// A saved game.
 struct PartidaGuardada {
-    static constexpr std::size_t Largo = 65;
+    static constexpr std::size_t Largo = ArchivoGuardadas.Largo;
 
     Integer NúmPalabra = 0;
     Integer Modo = 0;
@@ -29,7 +29,7 @@ struct PartidaGuardada {
 
 /// A row of an honour board. Its numbers stay the text of their fields, as the board shows them.
 struct FilaHonor {
-    static constexpr std::size_t Largo = 42;
+    static constexpr std::size_t Largo = LargoFilaHonor;
 
     Text puntos;
     Text Nombre;
@@ -40,7 +40,7 @@ struct FilaHonor {
 
 /// A row of the last games. `Palabra` is the number of a word, or "FINAL".
 struct FilaÚltima {
-    static constexpr std::size_t Largo = 57;
+    static constexpr std::size_t Largo = ArchivoÚltimas.Largo;
 
     Text Palabra;
     Text Nombre;
@@ -82,35 +82,27 @@ public:
     /// False on failure.
     bool Escribir(int k, const Registro& record) { return files.WriteAt(name, Offset(k), Codificar(record)); }
 
-    /// An all-blank record.
-    bool Vaciar(int k) { return files.WriteAt(name, Offset(k), std::string(Registro::Largo, ' ')); }
+    /// Makes the first `count` records all blank. False on failure.
+    bool Vaciar(int count) { return files.WriteAt(name, 0, std::string(Length(count), ' ')); }
 
-    /// Copies the whole record a, padding included, to record b. False on failure.
-    bool Mover(int a, int b) {
-        auto bytes = files.ReadAt(name, Offset(a), Registro::Largo);
-        if (!bytes) return false;
-        bytes->resize(Registro::Largo, ' ');
-        return files.WriteAt(name, Offset(b), *bytes);
-    }
+    /// Opens a place at `k` in a list of `count` records: those from there on move down. False on failure.
+    bool AbrirHueco(int k, int count) { return Mover(k, count, k + 1); }
 
-    /// Opens a place at `k` in a list of `count` records, highest first. False on failure.
-    bool AbrirHueco(int k, int count) {
-        for (int i = count; i >= k; --i) {
-            if (!Mover(i, i + 1)) return false;
-        }
-        return true;
-    }
-
-    /// Closes the place of record k in a list of `count`, lowest first. False on failure.
-    bool CerrarHueco(int k, int count) {
-        for (int i = k + 1; i <= count; ++i) {
-            if (!Mover(i, i - 1)) return false;
-        }
-        return true;
-    }
+    /// Closes the place of record k in a list of `count`: those behind it move up. False on failure.
+    bool CerrarHueco(int k, int count) { return Mover(k + 1, count, k); }
 
 private:
-    static std::int64_t Offset(int k) { return static_cast<std::int64_t>(k - 1) * Registro::Largo; }
+    static std::size_t Length(int count) { return static_cast<std::size_t>(count) * Registro::Largo; }
+    static std::int64_t Offset(int k) { return static_cast<std::int64_t>(Length(k - 1)); }
+
+    /// Copies the whole records from `first` to `last`, padding included, to the places from `to` on, in one write.
+    bool Mover(int first, int last, int to) {
+        if (last < first) return true;
+        auto bytes = files.ReadAt(name, Offset(first), Length(last - first + 1));
+        if (!bytes) return false;
+        bytes->resize(Length(last - first + 1), ' ');
+        return files.WriteAt(name, Offset(to), *bytes);
+    }
 
     Files& files;
     std::string_view name;

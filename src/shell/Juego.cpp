@@ -116,7 +116,7 @@ void Juego::Form_Load() {
     z.cmdDorvanquil.Caption = PáginaWeb;
     OcultarFondos(z);
     z.picFondo(2).Visible = true;
-    Diario::Recuperar(s.Files);
+    if (!Diario::Recuperar(s.Files)) MostrarErrorAlFrente(z);
     z.último = NúmeroOAviso(z, LeerContador(s.Files, ArchivoGuardadas));
     if (z.último == 0) z.mnuReanudar.Enabled = false;
 }

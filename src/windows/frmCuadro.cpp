@@ -26,7 +26,8 @@ frmCuadro::frmCuadro(Zarpi& zarpi, Forms& forms, Files& files, Printer& printer)
 
 void frmCuadro::Form_Load() {
     Label2.Caption = TextoModo(z.ModoHonor);
-    if (!LeerFilas()) MostrarErrorAlFrente(z);
+    const bool whole = Diario::Recuperar(files);
+    if (!LeerFilas() || !whole) MostrarErrorAlFrente(z);
 }
 
 bool frmCuadro::LeerFilas() {

@@ -62,7 +62,7 @@ void frmGuardar::Rechazar(TextView reason, TextBox& box) {
 }
 
 bool frmGuardar::Almacenar() {
-    const auto count = LeerContador(files, ArchivoGuardadas);
+    const auto count = ContarParaCambiar(files, ArchivoGuardadas);
     if (!count) return false;
     z.Fecha = txtFecha.Text;
     return GuardarPartida(files, *count, Partida());

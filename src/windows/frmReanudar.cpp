@@ -20,8 +20,7 @@ frmReanudar::frmReanudar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& fi
       dialogs(dialogs),
       files(files),
       índices(índices),
-      acciones(std::move(acciones)),
-      games(files, ArchivoGuardadas) {
+      acciones(std::move(acciones)) {
     OnLoad = [this] { Form_Load(); };
     OnQueryUnload = [this] { Form_QueryUnload(); };
     lstLista.Click = [this] { lstLista_Click(); };
@@ -35,10 +34,10 @@ void frmReanudar::Form_Load() {
     ModoAnterior = z.Modo;
     TiempoAnterior = z.Tiempo;
     NombreAnterior = z.Nombre;
-    último = NúmeroOAviso(z, LeerContador(files, ArchivoGuardadas));
+    último = NúmeroOAviso(z, ContarParaCambiar(files, ArchivoGuardadas));
     lstLista.List = {u"PARTIDAS"};
     for (int k = 1; k <= último; ++k) {
-        const auto game = games.Leer(k);
+        const auto game = LeerPartida(files, k);
         if (!game) {
             MostrarErrorAlFrente(z);
             break;
@@ -51,17 +50,20 @@ void frmReanudar::Form_Load() {
 
 void frmReanudar::lstLista_Click() {
     txtContraseña.Text.clear();
-    PartidaElegida = static_cast<Integer>(std::max(lstLista.ListIndex, 1));
-    if (PartidaElegida >= static_cast<int>(lstLista.List.size())) {
-        // There is nothing to choose: only the heading stands in the list.
-        PartidaElegida = 0;
-        lstLista.ListIndex = 0;
-        return;
-    }
+    const int line = std::max(lstLista.ListIndex, 1);
+    const bool listed = line < static_cast<int>(lstLista.List.size());
+    const auto game = listed ? LeerPartida(files, line) : std::nullopt;
+    // Without a game none is selected, and no password fits; the heading bears the mark.
+    PartidaElegida = static_cast<Integer>(game ? line : 0);
     lstLista.ListIndex = PartidaElegida;
-    if (const auto game = games.Leer(PartidaElegida)) {
+    if (game) {
         Tomar(*game);
         Mostrar(*game);
+    } else if (listed) {
+        for (Label* value : {&Label1, &Label2, &Label3, &Label9, &Label17, &Label11, &Label13, &Label15}) {
+            value->Caption.clear();
+        }
+        MostrarErrorAlFrente(z);
     }
 }
 

@@ -63,9 +63,8 @@ private:
     Files& files;
     ÍndicesPalabras índices;
     AccionesReanudar acciones;
-    ArchivoRegistros<PartidaGuardada> games;
     Integer último = 0;
-    Integer PartidaElegida = 0;  ///< record of the game selected, equal to its line in the list
+    Integer PartidaElegida = 0;  ///< record of the game selected, equal to its line in the list; 0 for none
     bool fReanudada = false;
     Integer ModoAnterior = 0;  ///< the choices when the dialog opened, given back unless a game is resumed
     Integer TiempoAnterior = 0;

@@ -22,7 +22,8 @@ frmÚltimas::frmÚltimas(Zarpi& zarpi, Forms& forms, Files& files, Printer& prin
 }
 
 void frmÚltimas::Form_Load() {
-    if (!LeerFilas()) MostrarErrorAlFrente(z);
+    const bool whole = Diario::Recuperar(files);
+    if (!LeerFilas() || !whole) MostrarErrorAlFrente(z);
 }
 
 bool frmÚltimas::LeerFilas() {

@@ -8,11 +8,14 @@
 #include <sys/resource.h>
 #endif
 
+#include "ContratoArchivos.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/GameFolder.h"
 
 namespace platform::desktop {
 namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Durable, ContratoArchivos, DurableFiles);
 
 /// An empty current folder, for the length of a test.
 struct Folder : testing::Test {
@@ -23,35 +26,6 @@ struct Folder : testing::Test {
     const QTemporaryDir folder;
     DurableFiles files;
 };
-
-TEST_F(Folder, StoresAndReads) {
-    EXPECT_EQ(files.Read("Ultimo.dat"), std::nullopt);
-    EXPECT_TRUE(files.Replace("Ultimo.dat", " 12 \r\n"));
-    EXPECT_TRUE(files.Replace("Ultimo.dat", " 3 \r\n"));
-    EXPECT_EQ(files.Read("Ultimo.dat"), " 3 \r\n");
-
-    EXPECT_EQ(files.ReadAt("CeI.rnd", 0, 42), "");
-    EXPECT_TRUE(QFile::exists("CeI.rnd"));
-    EXPECT_TRUE(files.WriteAt("CeI.rnd", 4, "wxyz"));
-    EXPECT_TRUE(files.WriteAt("CeI.rnd", 6, "YZ"));
-    EXPECT_EQ(files.ReadAt("CeI.rnd", 4, 3), "wxY");
-    EXPECT_EQ(files.ReadAt("CeI.rnd", 6, 9), "YZ");
-    EXPECT_EQ(files.ReadAt("CeI.rnd", 100, 9), "");
-    EXPECT_TRUE(files.Remove("CeI.rnd"));
-    EXPECT_TRUE(files.Remove("CeI.rnd"));
-    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden), QStringList("Ultimo.dat"));  // nothing is left beside
-}
-
-TEST_F(Folder, TellsFailures) {
-    QDir().mkdir("Ultimo.dat");
-    EXPECT_EQ(files.Read("Ultimo.dat"), std::nullopt);
-    EXPECT_EQ(files.ReadAt("Ultimo.dat", 0, 1), std::nullopt);
-    EXPECT_FALSE(files.WriteAt("Ultimo.dat", 0, "x"));
-    EXPECT_FALSE(files.Replace("Ultimo.dat", "x"));
-    EXPECT_TRUE(files.Remove("Ultimo.dat")) << "there is no such file";
-    EXPECT_TRUE(QDir("Ultimo.dat").exists());
-    EXPECT_FALSE(files.WriteAt("CeI.rnd", -1, "x"));
-}
 
 #ifdef Q_OS_UNIX
 TEST_F(Folder, AFullDiskTakesNothingAway) {
@@ -79,7 +53,7 @@ TEST_F(Folder, AnInstalledGameFurnishesThePlayersFolderOnce) {
     for (const bool first : {true, false}) {
         QDir::setCurrent(folder.path());
         GameFolder game;
-        EXPECT_TRUE(game.Enter(places));
+        EXPECT_TRUE(game.Enter(places, juego::EstrenarCarpeta));
         EXPECT_EQ(QDir::current(), QDir(places.Own));
         EXPECT_EQ(files.Read("UltCeI.dat"), first ? std::optional<std::string>(" 0 \r\n") : std::nullopt);
         EXPECT_EQ(files.Read("Musica01.mid"), "art");
@@ -92,10 +66,10 @@ TEST_F(Folder, AnInstalledGameFurnishesThePlayersFolderOnce) {
 TEST_F(Folder, OneGameAFolder) {
     for (const char* name : {"Zarpi1.bmp", "Ultimo.dat"}) EXPECT_TRUE(files.Replace(name, "x"));
     GameFolder first;
-    EXPECT_TRUE(first.Enter({}));
-    EXPECT_FALSE(GameFolder().Enter({}));
+    EXPECT_TRUE(first.Enter({}, {}));
+    EXPECT_FALSE(GameFolder().Enter({}, {}));
     first.Leave();
-    EXPECT_TRUE(GameFolder().Enter({}));
+    EXPECT_TRUE(GameFolder().Enter({}, {}));
     EXPECT_EQ(QDir::current(), QDir(folder.path()));
 }
 

@@ -14,7 +14,7 @@ export HOME=$folder/casa SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 mkdir "$HOME"
 trap 'kill $program 2>/dev/null || true; rm -rf "$folder"' EXIT
 cp "$game"/* "$folder"
-for counter in Ultimo UltPart UltCeI UltIyC UltCas UltIng UltCoI; do printf ' 0 \r\n' >"$folder/$counter.dat"; done
+for counter in "$folder"/*.dat; do printf ' 0 \r\n' >"$counter"; done
 # A saved game at its last word, RODILLA, which one letter after another solves.
 printf ' 1 \r\n' >"$folder/Ultimo.dat"
 printf ' 30 3 0 60 190 14 9Bego\361a        28-12-2026 x          4    0     ' >"$folder/Guardar.rnd"

@@ -12,7 +12,7 @@ fi
 folder=$(mktemp -d)
 trap 'kill $program 2>/dev/null || true; rm -rf "$folder"' EXIT
 cp "$game"/* "$folder"
-for counter in Ultimo UltPart UltCeI UltIyC UltCas UltIng UltCoI; do printf ' 0 \r\n' >"$folder/$counter.dat"; done
+for counter in "$folder"/*.dat; do printf ' 0 \r\n' >"$counter"; done
 cd "$folder"
 setxkbmap es
 export SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8

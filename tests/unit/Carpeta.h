@@ -1,19 +1,23 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
+#include <random>
 #include <string>
+
+#include "headless/FolderFiles.h"
+#include "records/Archivos.h"
 
 /// A game folder of its own for a test, as an installation leaves it; the current folder while it lives.
 class Carpeta {
 public:
     Carpeta() : before_(std::filesystem::current_path()) {
-        std::string name = (std::filesystem::temp_directory_path() / "zarpi-XXXXXX").string();
-        folder_ = mkdtemp(name.data());
+        std::random_device random;
+        do {
+            folder_ = std::filesystem::temp_directory_path() / ("zarpi-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(folder_));
         std::filesystem::current_path(folder_);
-        for (const char* counter : {"Ultimo", "UltPart", "UltCeI", "UltIyC", "UltCas", "UltIng", "UltCoI"}) {
-            std::ofstream(std::string(counter) + ".dat", std::ios::binary) << " 0 \r\n";
-        }
+        platform::headless::FolderFiles files;
+        juego::EstrenarCarpeta(files);
     }
     ~Carpeta() {
         std::filesystem::current_path(before_);

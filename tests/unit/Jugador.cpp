@@ -4,7 +4,6 @@
 
 #include "game/Modos.h"
 #include "records/Archivos.h"
-#include "records/Registros.h"
 
 using namespace platform;
 using juego::Text;
@@ -14,20 +13,12 @@ namespace {
 constexpr Key kEnter{.Code = KeyEnter, .Character = KeyEnter};
 constexpr Key kEscape{.Code = KeyEscape, .Character = KeyEscape};
 
-struct PairToCheck {
-    juego::Par pair;
-    std::size_t length;
-};
-
 std::string FaultOfFiles(Files& files) {
-    std::vector<PairToCheck> pairs = {{juego::ArchivoGuardadas, juego::PartidaGuardada::Largo},
-                                      {juego::ArchivoÚltimas, juego::FilaÚltima::Largo}};
-    for (const juego::Par& pair : juego::ArchivosHonor) pairs.push_back({pair, juego::FilaHonor::Largo});
-    for (const auto& [pair, length] : pairs) {
+    for (const juego::Par& pair : juego::Pares) {
         const auto count = juego::LeerContador(files, pair);
         if (!count) return "no counter " + std::string(pair.Contador);
         const std::size_t size = files.Read(pair.Registros).value_or("").size();
-        if (size < static_cast<std::size_t>(*count) * length)
+        if (size < static_cast<std::size_t>(*count) * pair.Largo)
             return "records missing in " + std::string(pair.Registros);
     }
     return {};
@@ -36,9 +27,7 @@ std::string FaultOfFiles(Files& files) {
 }  // namespace
 
 Jugador::Jugador() {
-    for (const char* counter : {"Ultimo", "UltPart", "UltCeI", "UltIyC", "UltCas", "UltIng", "UltCoI"}) {
-        files_.Replace(std::string(counter) + ".dat", " 0 \r\n");
-    }
+    juego::EstrenarCarpeta(files_);
 }
 
 void Jugador::Restart() {

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Carpeta.h"
+#include "ContratoArchivos.h"
 #include "headless/FolderFiles.h"
 #include "records/Registros.h"
 
@@ -11,6 +12,8 @@ namespace juego {
 namespace {
 
 using platform::headless::FolderFiles;
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Folder, ContratoArchivos, FolderFiles);
 
 TEST(Contador, ReadsWhateverStandsInTheFile) {
     const Carpeta folder;
@@ -29,6 +32,7 @@ TEST(Contador, ReadsWhateverStandsInTheFile) {
                                                                           {"   ", 0, 0},
                                                                           {"x5", 0, 0},
                                                                           {"-4", 0, 0},
+                                                                          {"-99999999999999999999", 0, 0},
                                                                           {"32767", 32767, 10},
                                                                           {"32768", std::nullopt, 10},
                                                                           {"99999999999999999999", std::nullopt, 10},
@@ -79,6 +83,13 @@ TEST(Registros, HaveTheirBytes) {
     EXPECT_EQ(back.Nombre, u"Íñigo €       ");
     game.comodines = 9;
     EXPECT_EQ(Codificar(game).substr(14, 5), " 29 9");
+    // Of numbers too wide for their field the last digits are lost; ten jokers alone take the place of the sign.
+    game.NúmPalabra = 123;
+    game.Modo = 12;
+    game.puntos = 1234;
+    game.Aleator = 32767;
+    EXPECT_EQ(Codificar(game).substr(0, 19), " 12 1 2 60 123 29 9");
+    EXPECT_EQ(Codificar(game).substr(54), " 3276 7    ");
 }
 
 TEST(Registros, AcceptAnyBytes) {
@@ -124,8 +135,14 @@ TEST(Texto, MapsEveryCodeOfThePageBothWays) {
     }
     EXPECT_EQ(platform::ToWindows1252(u"aťñ…"), "a?\xF1\x85");
     EXPECT_EQ(platform::UpperCase(u"josé, niño ÿ÷ß"), u"JOSÉ, NIÑO Ÿ÷ß");
-    for (const char* bad : {"\xC3", "\xFF", "\xE2\x82", "\xF0\x9F\x98\x80", "\xC0\x80"}) {
-        EXPECT_NE(platform::FromUtf8(bad).find(u'\xFFFD'), Text::npos) << bad;
+    // Cut short, no lead byte, beyond 16 bits, in more bytes than needed, half a pair, beyond all characters.
+    for (const char* bad :
+         {"\xC3", "\xFF", "\xE2\x82", "\xF0\x9F\x98\x80", "\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF",
+          "\xED\xA0\x80", "\xED\xBF\xBF", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80"}) {
+        EXPECT_EQ(platform::FromUtf8(bad).find_first_not_of(u'\xFFFD'), Text::npos) << bad;
+    }
+    for (const char16_t c : {u'\x7FF', u'\x800', u'\xD7FF', u'\xE000', u'\xFFFF'}) {
+        EXPECT_EQ(platform::FromUtf8(platform::ToUtf8(Text(1, c))), Text(1, c));
     }
 }
 

@@ -1,11 +1,14 @@
-// Nothing is lost: the program is stopped after each single file operation of every change, or its disk fails there;
-// what is found afterwards is the old state whole, or the new one.
+// Nothing is lost: the program is stopped at each single file operation of every change, or its disk fails there, once,
+// twice or for a while; what is found afterwards is what the player was told.
 
 #include <gtest/gtest.h>
 
+#include "Carpeta.h"
 #include "game/Modos.h"
 #include "headless/Headless.h"
 #include "headless/MemoryFiles.h"
+#include "records/CuadrosDeHonor.h"
+#include "records/UltimasPartidas.h"
 #include "shell/Juego.h"
 
 namespace juego {
@@ -15,82 +18,112 @@ using platform::headless::Ended;
 using platform::headless::Headless;
 using platform::headless::MemoryFiles;
 
-/// Files that stop the program, or fail for good, at the operation of a given number.
+/// Files on a disk whose faults come and go, under a program that can be stopped.
 class BrittleFiles : public Files {
 public:
-    enum class Fault { None, Stops, Fails };
+    enum class Fault { None, Fails, Stops };
+    /// What befalls each operation, counted from 0.
+    using Plan = std::function<Fault(int operation)>;
 
-    std::optional<std::string> Read(std::string_view name) override { return inner.Read(name); }
+    bool Exists(std::string_view name) override { return !Works() || inner.Exists(name); }
+    std::optional<std::string> Read(std::string_view name) override {
+        return Works() ? inner.Read(name) : std::nullopt;
+    }
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override {
-        return inner.ReadAt(name, offset, length);
+        return Works() ? inner.ReadAt(name, offset, length) : std::nullopt;
     }
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override {
+        // Of a write that goes wrong a part is on the disk.
+        if (!stopped_) inner.WriteAt(name, offset, bytes.substr(0, bytes.size() / 2));
         return Works() && inner.WriteAt(name, offset, bytes);
     }
     bool Replace(std::string_view name, std::string_view content) override {
-        return Works() && inner.Replace(name, content);
+        return Works() && !(full && inner.Exists(name)) && inner.Replace(name, content);
     }
     bool Remove(std::string_view name) override { return Works() && inner.Remove(name); }
 
+    /// Of a program that has been stopped nothing more reaches the disk, until the next one starts.
+    bool Stopped() const { return stopped_; }
+    void Restart() { stopped_ = false; }
+
     MemoryFiles inner;
-    Fault fault = Fault::None;
-    int remaining = 0;  ///< operations that still succeed
+    Plan plan;
+    int operations = 0;
+    int lastFault = -1;
+    bool full = false;  ///< no file can be replaced any more; there is room for a journal alone
 
 private:
     bool stopped_ = false;
 
     bool Works() {
-        if (fault == Fault::None || remaining-- > 0) return true;
-        // A program that has been stopped does nothing more, on its way out neither.
-        if (fault == Fault::Stops && !std::exchange(stopped_, true)) throw Ended();
-        return false;
+        if (stopped_) return false;
+        const Fault fault = plan ? plan(operations) : Fault::None;
+        if (fault != Fault::None) lastFault = operations;
+        ++operations;
+        stopped_ = fault == Fault::Stops;
+        return fault == Fault::None;
     }
 };
+
+using Fault = BrittleFiles::Fault;
 
 constexpr int kRows = 3;
 
 /// All that a player can see of a pair: as many records as the counter says.
-std::string Seen(Files& files, const Par& pair, std::size_t length) {
+std::string Seen(Files& files, const Par& pair) {
     const int count = LeerContador(files, pair).value_or(-1);
     return std::to_string(count) + ":" +
-           files.ReadAt(pair.Registros, 0, static_cast<std::size_t>(count) * length).value_or("-");
+           files.ReadAt(pair.Registros, 0, static_cast<std::size_t>(count) * pair.Largo).value_or("-");
 }
 
 std::string SeenAll(Files& files) {
-    return Seen(files, ArchivoGuardadas, PartidaGuardada::Largo) + Seen(files, ArchivoÚltimas, FilaÚltima::Largo) +
-           Seen(files, ArchivosHonor[0], FilaHonor::Largo);
+    std::string all;
+    for (const Par& pair : {ArchivoGuardadas, ArchivoÚltimas, ArchivosHonor[0]}) all += Seen(files, pair);
+    return all;
 }
 
-/// A program in the middle of its life, with three saved games, three last games and a board.
+FilaHonor Row(const Text& name, int points) {
+    FilaHonor row;
+    row.puntos = SignedDecimal(points);
+    row.Nombre = name;
+    return row;
+}
+
+PartidaGuardada Game(const Text& name) {
+    PartidaGuardada game;
+    game.NúmPalabra = 5;
+    game.Modo = 1;
+    game.Tiempo = 60;
+    game.Aleator = 4;
+    game.Nombre = name;
+    game.Contraseña = u"x";
+    return game;
+}
+
+FilaÚltima Last(const Text& word) {
+    FilaÚltima row;
+    row.Palabra = word;
+    return row;
+}
+
+/// Three saved games, three last games and a board.
+void Fill(Files& files, int boardRows) {
+    EstrenarCarpeta(files);
+    EscribirContador(files, ArchivoGuardadas, kRows);
+    EscribirContador(files, ArchivoÚltimas, kRows);
+    EscribirContador(files, ArchivosHonor[0], boardRows);
+    for (int k = 1; k <= std::max(kRows, boardRows); ++k) {
+        const Text name = u"Fila " + Decimal(k);
+        ArchivoRegistros<FilaHonor>(files, ArchivosHonor[0]).Escribir(k, Row(name, 100 - k));
+        if (k > kRows) continue;
+        ArchivoRegistros<PartidaGuardada>(files, ArchivoGuardadas).Escribir(k, Game(name));
+        ArchivoRegistros<FilaÚltima>(files, ArchivoÚltimas).Escribir(k, Last(SignedDecimal(k + 5)));
+    }
+}
+
+/// A program in the middle of its life.
 struct Programa {
-    explicit Programa(BrittleFiles& files, int boardRows) : files(files), headless(files) {
-        for (const Par& pair : ArchivosHonor) EscribirContador(files.inner, pair, 0);
-        EscribirContador(files.inner, ArchivoGuardadas, kRows);
-        EscribirContador(files.inner, ArchivoÚltimas, kRows);
-        EscribirContador(files.inner, ArchivosHonor[0], boardRows);
-        for (int k = 1; k <= 10; ++k) {
-            const Text name = u"Fila " + Decimal(k);
-            ArchivoRegistros<FilaHonor>(files.inner, ArchivosHonor[0]).Escribir(k, Row(name, 100 - k));
-            if (k > kRows) continue;
-            PartidaGuardada game;
-            game.NúmPalabra = 5;
-            game.Modo = 1;
-            game.Tiempo = 60;
-            game.Aleator = 4;
-            game.Nombre = name;
-            game.Contraseña = u"x";
-            ArchivoRegistros<PartidaGuardada>(files.inner, ArchivoGuardadas).Escribir(k, game);
-            FilaÚltima last;
-            last.Palabra = SignedDecimal(k + 5);
-            ArchivoRegistros<FilaÚltima>(files.inner, ArchivoÚltimas).Escribir(k, last);
-        }
-    }
-    static FilaHonor Row(const Text& name, int points) {
-        FilaHonor row;
-        row.puntos = SignedDecimal(points);
-        row.Nombre = name;
-        return row;
-    }
+    explicit Programa(BrittleFiles& files) : files(files), headless(files) {}
 
     /// Lets `moves` run while the program waits for the player, after it has come up; true unless it was stopped.
     bool Run(std::vector<std::function<void()>> moves) {
@@ -183,48 +216,223 @@ TEST_P(Interrupción, LeavesTheOldStateOrTheNew) {
     const Cambio& change = GetParam();
     // The states that a player may find: before, after, and between the two changes of a resume and a save.
     std::vector<std::string> whole;
+    BrittleFiles filled;
+    Fill(filled.inner, change.boardRows);
     int operations = 0;
     {
-        BrittleFiles files;
-        Programa program(files, change.boardRows);
-        whole.push_back(SeenAll(files));
-        files.fault = BrittleFiles::Fault::Stops;
-        files.remaining = 1000;
+        BrittleFiles files = filled;
+        Programa program(files);
+        whole.push_back(SeenAll(files.inner));
+        files.plan = [](int) { return Fault::None; };
         Moves moves = change.moves(program);
         for (auto& move : moves) {
             move = [&whole, &files, inner = move] {
                 inner();
-                whole.push_back(SeenAll(files));
+                whole.push_back(SeenAll(files.inner));
             };
         }
         ASSERT_TRUE(program.Run(moves));
-        operations = 1000 - files.remaining;
+        operations = files.operations;
     }
     ASSERT_GE(operations, 2);
     ASSERT_NE(whole.front(), whole.back());
-    for (const auto fault : {BrittleFiles::Fault::Stops, BrittleFiles::Fault::Fails}) {
-        for (int n = 0; n < operations; ++n) {
-            BrittleFiles files;
+    for (int n = 0; n < operations; ++n) {
+        for (const auto& plan : std::initializer_list<BrittleFiles::Plan>{
+                 [n](int operation) { return operation == n ? Fault::Stops : Fault::None; },
+                 [n](int operation) { return operation == n ? Fault::Fails : Fault::None; },
+                 [n](int operation) { return operation >= n ? Fault::Fails : Fault::None; }}) {
+            BrittleFiles files = filled;
+            bool told = false;
             {
-                Programa program(files, change.boardRows);
-                files.fault = fault;
-                files.remaining = n;
+                Programa program(files);
+                files.plan = plan;
                 program.Run(change.moves(program));
-                const bool told = program.z.fSalirError && program.z.lblMensajeError.Visible;
-                EXPECT_EQ(told, fault == BrittleFiles::Fault::Fails) << n;
+                told = program.z.fSalirError && program.z.lblMensajeError.Visible;
             }
-            files.fault = BrittleFiles::Fault::None;
+            files.Restart();
+            files.plan = nullptr;
             Headless headless(files);
             Juego again(headless.Services());
             again.Start();
-            EXPECT_NE(std::ranges::find(whole, SeenAll(files)), whole.end()) << "after operation " << n;
-            EXPECT_EQ(files.Read("Diario.tmp"), std::nullopt) << n;
+            const std::string found = SeenAll(files);
+            EXPECT_NE(std::ranges::find(whole, found), whole.end()) << "after operation " << n;
+            EXPECT_TRUE(told || found == whole.back()) << "after operation " << n;
+            EXPECT_FALSE(files.Exists("Diario.tmp")) << n;
         }
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(, Interrupción, testing::ValuesIn(kChanges),
                          [](const auto& info) { return "Change" + std::to_string(info.index); });
+
+/// The same changes without their windows; true when they say that they are done.
+using CambioDeArchivos = bool (*)(Files&);
+constexpr std::array<CambioDeArchivos, 5> kFileChanges = {
+    [](Files& files) {
+        const auto count = ContarParaCambiar(files, ArchivoGuardadas);
+        return count && GuardarPartida(files, *count, Game(u"Nueva"));
+    },
+    [](Files& files) {
+        const auto count = ContarParaCambiar(files, ArchivoGuardadas);
+        return count && RetirarPartida(files, 1, *count);
+    },
+    [](Files& files) { return AnotarPartida(files, Last(u"FINAL")).has_value(); },
+    [](Files& files) { return InsertarEnCuadro(files, ArchivosHonor[0], Row(u"Nueva", 98)); },
+    [](Files& files) { return RestablecerCuadro(files, ArchivosHonor[0]); }};
+
+/// Two changes, one after the other.
+class Historia {
+public:
+    Historia(const BrittleFiles& before, CambioDeArchivos first, CambioDeArchivos second)
+        : before_(before), changes_{first, second} {
+        for (unsigned made = 0; made < whole_.size(); ++made) {
+            MemoryFiles files = before_.inner;
+            for (unsigned k = 0; k < changes_.size(); ++k) {
+                if ((made >> k & 1U) != 0) changes_[k](files);
+            }
+            whole_[made] = SeenAll(files);
+        }
+    }
+
+    /// Plays them on a disk with this plan, which is sound again when the program starts anew. What is lost then:
+    /// nothing, if every change that was told as done is there, and no other.
+    std::string Lost(const BrittleFiles::Plan& plan) {
+        BrittleFiles files = before_;
+        files.plan = plan;
+        unsigned done = 0;
+        unsigned unknown = 0;  // stopped, be it before or after its last step
+        for (unsigned k = 0; k < changes_.size(); ++k) {
+            const int begin = files.operations;
+            if (changes_[k](files)) done |= 1U << k;
+            if (files.Stopped()) unknown |= 1U << k;
+            if (files.lastFault < begin && (done >> k & 1U) == 0) return "refused on a sound disk";
+            files.Restart();
+        }
+        operations_ = files.operations;
+        files.plan = nullptr;
+        if (!Diario::Recuperar(files) || files.Exists("Diario.tmp")) return "a journal waits for ever";
+        const std::string found = SeenAll(files);
+        for (unsigned made = 0; made < whole_.size(); ++made) {
+            if (whole_[made] == found && (made | unknown) == (done | unknown)) return "";
+        }
+        return found;
+    }
+    int Operations() const { return operations_; }
+
+private:
+    const BrittleFiles& before_;
+    std::array<CambioDeArchivos, 2> changes_;
+    std::array<std::string, 4> whole_;  ///< what is there, by the changes that were made
+    int operations_ = 0;
+};
+
+TEST(Diario, LosesNothingToFaultsThatComeAndGo) {
+    BrittleFiles filled;
+    Fill(filled.inner, kRows);
+    for (const CambioDeArchivos first : kFileChanges) {
+        for (const CambioDeArchivos second : kFileChanges) {
+            Historia history(filled, first, second);
+            ASSERT_EQ(history.Lost([](int) { return Fault::None; }), "");
+            const int last = history.Operations() + 12;  // what a recovery adds
+            for (int i = 0; i < last; ++i) {
+                for (int j = i; j < last; ++j) {
+                    const auto apart = [i, j](Fault one, Fault other) {
+                        return [=](int n) { return n == i ? one : n == j ? other : Fault::None; };
+                    };
+                    const auto lasting = [i, j](int n) { return n >= i && n <= j ? Fault::Fails : Fault::None; };
+                    for (const auto& plan : std::initializer_list<BrittleFiles::Plan>{
+                             apart(Fault::Fails, Fault::Fails), apart(Fault::Stops, Fault::Fails),
+                             apart(Fault::Fails, Fault::Stops), lasting}) {
+                        ASSERT_EQ(history.Lost(plan), "") << i << ' ' << j;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Diario, OnAFullDiskAChangeThatFailsLeavesNothingBehind) {
+    BrittleFiles files;
+    Fill(files.inner, kRows);
+    const std::string before = SeenAll(files);
+    files.full = true;
+    EXPECT_EQ(AnotarPartida(files, Last(u"FINAL")), std::nullopt);
+    EXPECT_EQ(SeenAll(files), before);
+    EXPECT_FALSE(files.Exists("Diario.tmp"));
+}
+
+TEST(Diario, NothingIsChangedWhileOneWaits) {
+    const Carpeta folder;
+    platform::headless::FolderFiles files;
+    Fill(files, kRows);
+    const std::string before = SeenAll(files);
+    std::filesystem::create_directory("CoI.rnd");  // in the way of its restoration
+    const std::string journal = "CoI.rnd 0\nUltCoI.dat 5\n 0 \r\n";
+    ASSERT_TRUE(files.Replace("Diario.tmp", journal));
+    for (const CambioDeArchivos change : kFileChanges) EXPECT_FALSE(change(files));
+    EXPECT_FALSE(GuardarPartida(files, kRows, Game(u"Nueva")));
+    EXPECT_FALSE(LeerPartida(files, 1)) << "it may be another game's record";
+    EXPECT_EQ(SeenAll(files), before);
+    EXPECT_EQ(files.Read("Diario.tmp"), journal);
+    std::filesystem::remove("CoI.rnd");
+    for (const CambioDeArchivos change : kFileChanges) EXPECT_TRUE(change(files));
+}
+
+TEST(Diario, IsNotTrusted) {
+    const std::string row(FilaHonor::Largo, 'r');
+    const std::string counter = "UltCeI.dat 5\n 1 \r\n";
+    const std::string good = "CeI.rnd 42\n" + row;
+    const auto pair = ArchivosHonor[0];
+    MemoryFiles files;
+    Fill(files, kRows);
+    const std::string before = SeenAll(files);
+    files.Replace("Zarpi1.bmp", "art");
+    int aside = 0;
+    for (const std::string& journal :
+         std::initializer_list<std::string>{"",
+                                            "CeI.rnd",
+                                            "CeI.rnd 42\n",
+                                            "x",
+                                            "Zarpi1.bmp -1\n",
+                                            "Zarpi1.bmp 1\nx" + counter,
+                                            "../CeI.rnd 42\n" + row + counter,
+                                            "UltCeI.dat -1\n" + counter,
+                                            counter + good,
+                                            good,
+                                            good + good,
+                                            good + counter + "x",
+                                            good + counter + counter,
+                                            good + "UltIyC.dat 5\n 1 \r\n",
+                                            good + "UltCeI.dat 0\n",
+                                            good + "UltCeI.dat -1\n",
+                                            good + "UltCeI.dat 6\n 1 \r\n",
+                                            "CeI.rnd 42 \n" + row + counter,
+                                            "CeI.rnd -2\n" + counter,
+                                            "CeI.rnd 4294967338\n" + row + counter,
+                                            "CeI.rnd \n" + counter,
+                                            "CeI.rnd 463\n" + std::string(463, 'r') + counter,
+                                            "Ultimo.dat 5\n 1 \r\nGuardar.rnd -1\n",
+                                            "Guardar.rnd 0\nUltimo.dat 7\n 32768\n"}) {
+        ASSERT_TRUE(files.Replace("Diario.tmp", journal));
+        EXPECT_TRUE(Diario::Recuperar(files)) << journal;
+        EXPECT_EQ(SeenAll(files), before) << journal;
+        EXPECT_EQ(files.Read("Zarpi1.bmp"), "art") << journal;
+        EXPECT_FALSE(files.Exists("Diario.tmp"));
+        // Each lies aside as it is, beside those before it.
+        ++aside;
+        EXPECT_EQ(files.Read(aside == 1 ? "Diario.mal" : "Diario.mal" + std::to_string(aside)), journal);
+    }
+    // What the game can have written is done: rows where there were none are blank.
+    for (const auto& [journal, seen] : std::initializer_list<std::pair<std::string, std::string>>{
+             {good + counter, "1:" + row},
+             {"CeI.rnd 3\nabcUltCeI.dat 1\n2", "2:abc" + std::string(2 * FilaHonor::Largo - 3, ' ')},
+             {"CeI.rnd -1\nUltCeI.dat 5\n 0 \r\n", "0:"}}) {
+        ASSERT_TRUE(files.Replace("Diario.tmp", journal));
+        EXPECT_TRUE(Diario::Recuperar(files)) << journal;
+        EXPECT_EQ(Seen(files, pair), seen);
+        EXPECT_FALSE(files.Exists("Diario.tmp"));
+    }
+}
 
 }  // namespace
 }  // namespace juego

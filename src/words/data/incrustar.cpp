@@ -24,6 +24,7 @@ constexpr std::size_t kEntries = 4000;
 constexpr std::size_t kMinLetters = 4;
 constexpr std::size_t kMaxLetters = 10;
 constexpr std::size_t kMaxTranslation = 54;
+constexpr unsigned char kFirstBeyondAscii = 0x80;
 constexpr TextView kEnglishLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr TextView kSpanishLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZÑÁÉÍÓÚ";
 
@@ -108,10 +109,10 @@ void Write(std::ostream& out, const char* name, const Column& column) {
     for (const Text& entry : column) {
         out << '"';
         for (const char byte : platform::ToWindows1252(entry)) {
+            const auto code = static_cast<unsigned char>(byte);
             std::array<char, 8> octal{};
-            std::snprintf(octal.data(), octal.size(), "\\%03o",
-                          static_cast<unsigned>(static_cast<unsigned char>(byte)));
-            if (byte > 0) {
+            std::snprintf(octal.data(), octal.size(), "\\%03o", static_cast<unsigned>(code));
+            if (code < kFirstBeyondAscii) {
                 out << byte;
             } else {
                 out << octal.data();
