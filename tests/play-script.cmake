@@ -1,6 +1,15 @@
-# Plays SCRIPT with PLAYER in a game folder FOLDER made anew, as an installation leaves it.
+# Plays each of SCRIPTS with PLAYER in a game folder of its own under FOLDER, made anew, as an installation leaves it.
+# The hero's poses in it are those of PICTURES; without, it has none.
 file(REMOVE_RECURSE ${FOLDER})
-execute_process(COMMAND ${PLAYER} --new-folder ${FOLDER} ${SCRIPT} RESULT_VARIABLE result)
-if(NOT result EQUAL 0)
-    message(FATAL_ERROR "exit status ${result}")
-endif()
+foreach(script ${SCRIPTS})
+    cmake_path(GET script STEM name)
+    set(folder ${FOLDER}/${name})
+    if(PICTURES)
+        file(GLOB poses ${PICTURES}/*.bmp)
+        file(COPY ${poses} DESTINATION ${folder})
+    endif()
+    execute_process(COMMAND ${PLAYER} --new-folder ${folder} ${script} RESULT_VARIABLE result)
+    if(NOT result EQUAL 0)
+        message(SEND_ERROR "${name}: exit status ${result}")
+    endif()
+endforeach()

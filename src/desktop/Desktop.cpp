@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
-#include <QPixmapCache>
 #include <QScreen>
 #include <QTranslator>
 #include <cstdlib>
@@ -12,6 +11,7 @@
 #include "desktop/FormPrinter.h"
 #include "desktop/GameFolder.h"
 #include "desktop/Heartbeat.h"
+#include "desktop/Look.h"
 #include "desktop/MediaPlayer.h"
 #include "desktop/SystemServices.h"
 #include "desktop/WindowDisplay.h"
@@ -24,8 +24,6 @@
 namespace platform::desktop {
 
 namespace {
-
-constexpr double kTextSize = 9;  // points, of menus and messages
 
 /// Keeps pictures out of the heap, where the place of a large one that is gone would stay taken.
 void ReturnLargeMemory() {
@@ -53,7 +51,6 @@ public:
     platform::Services& Services() { return services_; }
 
 private:
-    void SetLook();
     void LoadTranslation();
 
     QApplication app_;
@@ -82,7 +79,7 @@ Desktop::Parts::Parts(int& argc, char** argv)
       display_(scale_),
       scheduler_([this] { return heartbeat_.Now(); }),
       screen_(display_, scheduler_) {
-    SetLook();
+    SetLook(scale_);
     display_.Attach(screen_);
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
@@ -98,16 +95,6 @@ bool Desktop::Parts::EnterFolder(const GameFolder::Furnisher& furnish) {
     const bool free = folder_.Enter(GameFolder::SystemPlaces(), furnish);
     if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
     return free;
-}
-
-/// The same look on every desktop: the colours of the design are meant for a light one.
-void Desktop::Parts::SetLook() {
-    constexpr QRgb kGround = 0xEFEFEF;
-    constexpr int kCacheLimit = 4096;  // kilobytes
-    QApplication::setPalette(QPalette(QColor(kGround)));
-    QApplication::setFont(scale_.Font(FontName::MSSansSerif, kTextSize, false));
-    QApplication::setQuitOnLastWindowClosed(false);
-    QPixmapCache::setCacheLimit(kCacheLimit);
 }
 
 /// The texts that Qt itself brings to dialogs and menus of text boxes.

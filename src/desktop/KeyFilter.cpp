@@ -8,8 +8,10 @@ namespace platform::desktop {
 
 namespace {
 
-bool TakesKeys(const QObject* receiver) {
-    return dynamic_cast<const QLineEdit*>(receiver) != nullptr || dynamic_cast<const QListWidget*>(receiver) != nullptr;
+/// A text box takes all keys; a list those that move its selection, and no letter to look for a line.
+bool Takes(const QObject* receiver, const std::optional<Key>& key) {
+    if (dynamic_cast<const QListWidget*>(receiver) != nullptr) return key && key->Character == 0;
+    return dynamic_cast<const QLineEdit*>(receiver) != nullptr;
 }
 
 }  // namespace
@@ -43,7 +45,7 @@ bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
     if (MovesFocus(press)) return false;
     const std::optional<Key> key = reader_.Read(press);
     const bool taken = key && Press(*key);
-    return taken || !TakesKeys(receiver);
+    return taken || !Takes(receiver, key);
 }
 
 void KeyFilter::TakeText(const QString& text) {

@@ -1,13 +1,29 @@
 #pragma once
 
 #include <QListWidget>
+#include <functional>
 
 #include "desktop/View.h"
 
 namespace platform::desktop {
 
+/// A list that tells which line the player has chosen: by a click, on the line that is selected too, or by a key.
+class ListWidget : public QListWidget {
+public:
+    explicit ListWidget(QWidget* client);
+
+    std::function<void(int line)> OnChoice;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool pressed_ = false;
+};
+
 /// The view of a list box.
-class ListBoxView : public ElementView<ListBox, QListWidget> {
+class ListBoxView : public ElementView<ListBox, ListWidget> {
 public:
     ListBoxView(const Toolkit& toolkit, ListBox& element, QWidget& client);
 

@@ -46,6 +46,15 @@ Source SourceOf(const PictureLook& look) {
     return {Existing(file), Existing(file.left(file.lastIndexOf('.')) + "@2x.png")};
 }
 
+/// Decodes a picture. A palette does not outlive this: scaling one smoothly is more than the toolkit can do.
+QImage Decode(const QString& path) {
+    QImage image = Reader(path).read();
+    if (!image.isNull()) {
+        image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    }
+    return image;
+}
+
 /// Reads a picture into `size` logical pixels, or into its own size at `factor` if `size` is not valid.
 QPixmap Read(const Source& source, QSize size, double factor) {
     const QSize own = source.single.isEmpty() ? QSize() : Reader(source.single).size();
@@ -58,8 +67,8 @@ QPixmap Read(const Source& source, QSize size, double factor) {
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
 
     const bool wantsTwice = target.width() > own.width() && !source.twice.isEmpty();
-    QImage image = Reader(wantsTwice ? source.twice : source.single).read();
-    if (image.isNull()) image = Reader(source.single).read();
+    QImage image = Decode(wantsTwice ? source.twice : source.single);
+    if (image.isNull()) image = Decode(source.single);
     if (image.isNull()) return {};
     if (image.size() != target) image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     pixmap = QPixmap::fromImage(std::move(image));

@@ -1,5 +1,6 @@
 #include "desktop/TextBoxView.h"
 
+#include <QMouseEvent>
 #include <QValidator>
 #include <algorithm>
 
@@ -9,6 +10,26 @@
 namespace platform::desktop {
 
 namespace {
+
+/// Hands the clicks on a text box on to its element; the text box has them as well.
+class BoxClicks : public QObject {
+public:
+    BoxClicks(QLineEdit& edit, Screen& screen, TextBox& element) : QObject(&edit), screen_(screen), element_(element) {
+        edit.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonRelease) return false;
+        const auto& release = static_cast<const QMouseEvent&>(*event);
+        const bool inside = static_cast<QWidget*>(receiver)->rect().contains(release.position().toPoint());
+        if (release.button() == Qt::LeftButton && inside) screen_.Click(element_);
+        return false;
+    }
+
+private:
+    Screen& screen_;
+    TextBox& element_;
+};
 
 /// Takes out of a text what its box refuses. Of a text too long, what was entered last goes, not the end.
 class BoxValidator : public QValidator {
@@ -42,6 +63,7 @@ private:
 TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& client)
     : ElementView(toolkit, element, client) {
     TakeFocus(element.TabIndex);
+    new BoxClicks(widget_, toolkit.Screen, element);
     widget_.setValidator(new BoxValidator(element, &widget_));
     if (element.Password) widget_.setStyleSheet("lineedit-password-character: 42");  // "*"
     QObject::connect(&widget_, &QLineEdit::textEdited, &widget_,

@@ -23,7 +23,7 @@ FormWindow* WindowDisplay::FrontWindow() const {
 void WindowDisplay::Opened(Form& form, bool modal) {
     const auto& shown = screen_->Shown();
     FormWindow* const owner = shown.size() < 2 ? nullptr : WindowOf(*shown[shown.size() - 2]);
-    auto* const window = new FormWindow({*screen_, scale_, pictures_}, form, owner, modal);
+    auto* const window = new FormWindow(Kit(), form, owner, modal);
     windows_[&form] = window;
     if (!hadWindow_) {
         // The window is up when what it has painted has left for the screen: after this round of the event loop.

@@ -26,6 +26,8 @@ public:
 
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
+    /// What its windows are made with.
+    [[nodiscard]] Toolkit Kit() const { return {*screen_, scale_, pictures_}; }
     /// The window in front; null if there is none.
     [[nodiscard]] FormWindow* FrontWindow() const;
 

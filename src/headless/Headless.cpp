@@ -54,14 +54,31 @@ void Headless::Wait(Moment duration) {
     if (clock.Now() < end) clock.MoveTo(end);
 }
 
+void Headless::Opened(Form& form, bool modal) {
+    if (windows_ != nullptr) windows_->Opened(form, modal);
+}
+
+void Headless::Closed(Form& form) {
+    if (windows_ != nullptr) windows_->Closed(form);
+}
+
+void Headless::Refresh() {
+    if (windows_ != nullptr) windows_->Refresh();
+}
+
 void Headless::WaitUntil(const std::function<bool()>& done) {
     while (!done()) {
-        if (!move_ || !move_()) throw Ended();
+        if (!move_ || !move_()) Leave();
     }
 }
 
 void Headless::End() {
     log.Add("end");
+    Leave();
+}
+
+void Headless::Leave() {
+    if (end_) end_();
     throw Ended();
 }
 

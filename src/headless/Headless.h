@@ -13,7 +13,7 @@
 /// A complete platform in memory: a clock that moves when told, and a log of what was sounded, printed and shown.
 namespace platform::headless {
 
-/// Thrown through all handlers when the program ends, so that nothing more of it runs.
+/// Thrown through all handlers when the program ends, so that nothing more of it runs, where nobody takes the end.
 struct Ended {};
 
 /// What the platform would have brought before the player's eyes and ears, an entry a line, UTF-8.
@@ -70,11 +70,15 @@ private:
 /// The platform. Its player is a function that makes one move at each call.
 class Headless : Display, Dialogs, Printer, Media, Web, Speech {
 public:
-    /// The stored files lie where `files` keeps them; it must outlive the platform.
-    explicit Headless(platform::Files& files) : files(files) {}
+    /// The stored files lie where `files` keeps them. The forms are shown by `windows`, whose waiting and ending are
+    /// not asked; null: nowhere. Both must outlive the platform.
+    explicit Headless(platform::Files& files, Display* windows = nullptr) : files(files), windows_(windows) {}
 
     /// `move` makes the player's next move, false when he has none left; a modal form waits for his moves.
     void SetPlayer(std::function<bool()> move) { move_ = std::move(move); }
+    /// `end` is called when the program ends, or the player has no moves left while a modal form waits. It must not
+    /// come back.
+    void SetEnd(std::function<void()> end) { end_ = std::move(end); }
 
     [[nodiscard]] platform::Services Services();
 
@@ -96,9 +100,9 @@ public:
     void Wait(Moment duration);
 
 private:
-    void Opened(Form& /*form*/, bool /*modal*/) override {}
-    void Closed(Form& /*form*/) override {}
-    void Refresh() override {}
+    void Opened(Form& form, bool modal) override;
+    void Closed(Form& form) override;
+    void Refresh() override;
     void WaitUntil(const std::function<bool()>& done) override;
     void End() override;
     void Beep() override { log.Add("beep"); }
@@ -110,8 +114,12 @@ private:
     [[nodiscard]] bool IsHeard() const override { return listening_; }
     void Say(TextView text) override { spoken.emplace_back(text); }
 
+    [[noreturn]] void Leave();
+
+    Display* windows_;
     std::function<bool()> move_;
     bool listening_ = false;
+    std::function<void()> end_;
 };
 
 }  // namespace platform::headless

@@ -4,9 +4,11 @@
 #include <charconv>
 #include <filesystem>
 #include <istream>
+#include <locale>
 #include <map>
 #include <ostream>
 #include <sstream>
+#include <stdexcept>
 
 #include "headless/FolderFiles.h"
 
@@ -22,15 +24,18 @@ std::string_view TrimmedView(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
+/// Ends the script; caught where its line is run, so that it never passes through the program.
 [[noreturn]] void Fail(const std::string& what) {
-    throw ScriptError(what);
+    throw std::runtime_error(what);
 }
 
 template <class Number>
 Number ParseNumber(std::string_view text) {
     Number number{};
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc() || result.ptr != text.data() + text.size()) Fail("no number: " + std::string(text));
+    std::istringstream in{std::string(text)};
+    in.imbue(std::locale::classic());
+    in >> std::noskipws >> number;
+    if (in.fail() || in.peek() != std::istringstream::traits_type::eof()) Fail("no number: " + std::string(text));
     return number;
 }
 
@@ -89,8 +94,8 @@ std::string_view ReasonName(Refusal refusal) {
 
 }  // namespace
 
-Player::Player(Headless& platform, Program program, std::ostream& out)
-    : platform_(platform), program_(std::move(program)), out_(out) {
+Player::Player(Headless& platform, Means means, Program program, std::ostream& out)
+    : platform_(platform), means_(means), program_(std::move(program)), out_(out) {
     platform_.SetPlayer([this] { return RunNext(); });
 }
 
@@ -110,20 +115,33 @@ const std::vector<Player::CommandRow>& Player::Commands() {
     return kCommands;
 }
 
-bool Player::Run(std::istream& script) {
+Outcome Player::Run(std::istream& script) {
     for (std::string line; std::getline(script, line);) lines_.push_back(std::move(line));
-    if (script.bad()) Fail("the script cannot be read");
-    while (true) {
-        try {
-            if (!RunNext()) return good_;
-        } catch (const Ended&) {
-            ended_ = true;
-            keys_.clear();
+    if (script.bad()) error_ = "the script cannot be read";
+    try {
+        while (RunNext()) {
         }
+    } catch (const Ended&) {
+        return RunAfterEnd();
     }
+    return Result();
+}
+
+Outcome Player::RunAfterEnd() {
+    ended_ = true;
+    keys_.clear();
+    while (RunNext()) {
+    }
+    return Result();
+}
+
+Outcome Player::Result() const {
+    if (!error_.empty()) return Outcome::Unreadable;
+    return good_ ? Outcome::Good : Outcome::ExpectFailed;
 }
 
 bool Player::RunNext() {
+    if (!error_.empty()) return false;
     if (!keys_.empty()) {
         PressNextKey();
         return true;
@@ -134,8 +152,8 @@ bool Player::RunNext() {
     if (line.starts_with('#') || TrimmedView(line).empty()) return true;
     try {
         Execute(line);
-    } catch (const ScriptError& error) {
-        Fail("line " + std::to_string(next_) + ": " + error.what());
+    } catch (const std::exception& error) {
+        if (error_.empty()) error_ = "line " + std::to_string(next_) + ": " + error.what();
     }
     return true;
 }
@@ -184,10 +202,10 @@ void Player::Start(std::string_view /*rest*/) {
 }
 
 Refusal Player::TryClick(std::string_view name) {
-    if (Form* form = FindForm(name)) return platform_.screen.Click(*form);
+    if (Form* form = FindForm(name)) return means_.Hand.Click(*form);
     Control* control = FindControl(name, true);
     if (control == nullptr) Fail("no element: " + std::string(name));
-    return platform_.screen.Click(*control);
+    return means_.Hand.Click(*control);
 }
 
 void Player::Click(std::string_view name) {
@@ -195,11 +213,7 @@ void Player::Click(std::string_view name) {
 }
 
 void Player::PressKey(std::string_view name) {
-    const Key key = ParseKey(name);
-    Form* const front = platform_.screen.Front();
-    const Refusal refusal = front == nullptr ? Refusal::Closed : platform_.screen.Reach(*front);
-    if (refusal != Refusal::None) return Tell(name, refusal);
-    if (!platform_.screen.Press(key)) platform_.screen.TypeKey(key);
+    Tell(name, means_.Hand.Press(ParseKey(name)));
 }
 
 void Player::PressKeys(std::string_view text) {
@@ -217,18 +231,17 @@ void Player::Type(std::string_view rest) {
     const auto text = TrimmedView(quoted);
     if (text.size() < 2 || text.front() != '"' || text.back() != '"') Fail("no text in quotes: " + std::string(rest));
     auto& box = static_cast<TextBox&>(NeedControl(name, Kind::TextBox));
-    Tell(name, platform_.screen.Type(box, FromUtf8(text.substr(1, text.size() - 2))));
+    Tell(name, means_.Hand.Type(box, FromUtf8(text.substr(1, text.size() - 2))));
 }
 
 void Player::Select(std::string_view rest) {
     const auto [name, line] = SplitWord(rest);
     auto& list = static_cast<ListBox&>(NeedControl(name, Kind::ListBox));
-    Tell(name, platform_.screen.Select(list, ParseNumber<int>(TrimmedView(line))));
+    Tell(name, means_.Hand.Select(list, ParseNumber<int>(TrimmedView(line))));
 }
 
 void Player::Close(std::string_view /*rest*/) {
-    Form* const front = platform_.screen.Front();
-    Tell("close", front == nullptr ? Refusal::Closed : platform_.screen.Close(*front));
+    Tell("close", means_.Hand.Close());
 }
 
 void Player::Wait(std::string_view rest) {

@@ -3,13 +3,12 @@
 #include <functional>
 #include <iosfwd>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "headless/Hand.h"
 #include "headless/Headless.h"
-#include "headless/Properties.h"
 
 namespace platform::headless {
 
@@ -21,19 +20,27 @@ struct Program {
     std::function<std::optional<Value>(std::string_view form, std::string_view field)> field;
 };
 
-/// A script that cannot be read, or that names what does not exist.
-struct ScriptError : std::runtime_error {
-    using std::runtime_error::runtime_error;
+/// By what means a script is played.
+struct Means {
+    headless::Hand& Hand;
+    const headless::Eye* Eye;  ///< null where the state is what is seen
 };
+
+/// How a script went. A script is unreadable from the first line that cannot be read or names what does not exist.
+enum class Outcome { Good, ExpectFailed, Unreadable };
 
 /// Plays a program from a script, one command a line. Works in the current folder.
 class Player {
 public:
     /// Answers go to `out`.
-    Player(Headless& platform, Program program, std::ostream& out);
+    Player(Headless& platform, Means means, Program program, std::ostream& out);
 
-    /// Runs a script to its end. False if an `expect` failed; throws ScriptError.
-    bool Run(std::istream& script);
+    /// Runs a script to its end.
+    Outcome Run(std::istream& script);
+    /// Runs the rest of the script after the end of the program, for a platform whose end does not come back.
+    Outcome RunAfterEnd();
+    /// Why the script is unreadable.
+    [[nodiscard]] const std::string& Error() const { return error_; }
 
 private:
     using Action = void (Player::*)(std::string_view rest);
@@ -45,6 +52,7 @@ private:
     static const std::vector<CommandRow>& Commands();
 
     bool RunNext();
+    [[nodiscard]] Outcome Result() const;
     void Execute(std::string_view line);
     void PressNextKey();
 
@@ -81,8 +89,10 @@ private:
     std::string ShownForms() const;
     std::string FocusName() const;
     std::string Spoken() const;
+    /// A value as it is told: where the player sees another one, with that.
+    static std::string Told(const Value& state, const std::optional<Value>& seen);
     std::string ValueOf(std::string_view name) const;
-    std::optional<Value> FormValue(std::string_view name) const;
+    std::optional<std::string> FormValue(std::string_view name) const;
     void ExpectRefused(std::string_view rest);
     void ExpectLog(std::string_view entry, bool wanted);
     void Check(bool good, const std::string& expected, const std::string& found);
@@ -94,6 +104,7 @@ private:
     Control& NeedControl(std::string_view name, Kind kind) const;
 
     Headless& platform_;
+    Means means_;
     Program program_;
     std::ostream& out_;
     std::vector<std::string> lines_;
@@ -102,6 +113,7 @@ private:
     bool started_ = false;
     bool ended_ = false;
     bool good_ = true;
+    std::string error_;
 };
 
 }  // namespace platform::headless

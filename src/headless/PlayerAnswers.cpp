@@ -2,6 +2,7 @@
 #include <charconv>
 #include <filesystem>
 #include <ostream>
+#include <stdexcept>
 
 #include "headless/Player.h"
 
@@ -9,6 +10,8 @@
 namespace platform::headless {
 
 namespace {
+
+constexpr const char* kSeen = ", shown as ";
 
 std::pair<std::string_view, std::string_view> SplitWord(std::string_view line) {
     const auto blank = line.find(' ');
@@ -64,7 +67,7 @@ void Player::Expect(std::string_view what) {
     if (word == "refused") return ExpectRefused(rest);
     if (word == "log") return ExpectLog(rest, true);
     if (word == "no") {
-        if (!rest.starts_with("log ")) throw ScriptError("cannot be read: " + std::string(what));
+        if (!rest.starts_with("log ")) throw std::runtime_error("cannot be read: " + std::string(what));
         return ExpectLog(rest.substr(4), false);
     }
     const bool aboutFiles = word == "file" || word == "files" || word == "size";
@@ -78,7 +81,7 @@ void Player::Expect(std::string_view what) {
 
 void Player::ExpectRefused(std::string_view rest) {
     const auto [word, name] = SplitWord(rest);
-    if (word != "click") throw ScriptError("cannot be read: refused " + std::string(rest));
+    if (word != "click") throw std::runtime_error("cannot be read: refused " + std::string(rest));
     const Refusal refusal = ended_ ? Refusal::Closed : TryClick(name);
     Check(refusal != Refusal::None, "refused click " + std::string(name), "the click went through");
 }
@@ -127,7 +130,9 @@ Player::Answer Player::AskFile(std::string_view rest) const {
 std::string Player::ShownForms() const {
     std::string names;
     for (const Form* form : platform_.screen.Shown()) names += (names.empty() ? "" : " ") + form->Name;
-    return names.empty() ? "none" : names;
+    if (names.empty()) names = "none";
+    const std::string seen = means_.Eye == nullptr ? names : means_.Eye->Forms();
+    return seen == names ? names : names + kSeen + seen;
 }
 
 std::string Player::Spoken() const {
@@ -139,32 +144,39 @@ std::string Player::Spoken() const {
 
 std::string Player::FocusName() const {
     const Form* const front = platform_.screen.Front();
-    if (front == nullptr || front->Focus() == nullptr) return "none";
-    return front->Name + "." + front->Focus()->FullName();
+    const bool none = front == nullptr || front->Focus() == nullptr;
+    const std::string name = none ? "none" : front->Name + "." + front->Focus()->FullName();
+    const std::string seen = means_.Eye == nullptr ? name : means_.Eye->Focus();
+    return seen == name ? name : name + kSeen + seen;
+}
+
+std::string Player::Told(const Value& state, const std::optional<Value>& seen) {
+    return seen ? Format(state) + kSeen + Format(*seen) : Format(state);
 }
 
 /// A field or a property of a form: "Zarpi.Fallo", "frmPuntos.f200", "frmCuadro.Height".
-std::optional<Value> Player::FormValue(std::string_view name) const {
+std::optional<std::string> Player::FormValue(std::string_view name) const {
     const auto dot = name.find('.');
     if (dot == std::string_view::npos) return std::nullopt;
     const std::string_view owner = name.substr(0, dot);
     const std::string_view member = name.substr(dot + 1);
-    if (auto value = program_.field(owner, member)) return value;
+    if (const auto field = program_.field(owner, member)) return Format(*field);
     const Form* const form = FindForm(owner);
     if (form == nullptr) return std::nullopt;
     const auto& shown = platform_.screen.Shown();
-    return PropertyOf(*form, std::ranges::find(shown, form) != shown.end(), member);
+    const auto value = PropertyOf(*form, std::ranges::find(shown, form) != shown.end(), member);
+    if (!value) return std::nullopt;
+    return Told(*value, means_.Eye == nullptr ? std::nullopt : means_.Eye->Seen(*form, member, *value));
 }
 
 std::string Player::ValueOf(std::string_view name) const {
-    std::optional<Value> value = FormValue(name);
-    if (!value) {
-        const auto dot = name.rfind('.');
-        const Control* control = dot == std::string_view::npos ? nullptr : FindControl(name.substr(0, dot), false);
-        if (control != nullptr) value = PropertyOf(*control, name.substr(dot + 1));
-    }
-    if (!value) throw ScriptError("no such value: " + std::string(name));
-    return Format(*value);
+    if (const auto value = FormValue(name)) return *value;
+    const auto dot = name.rfind('.');
+    const Control* control = dot == std::string_view::npos ? nullptr : FindControl(name.substr(0, dot), false);
+    const std::string_view property = name.substr(dot + 1);
+    const auto value = control == nullptr ? std::nullopt : PropertyOf(*control, property);
+    if (!value) throw std::runtime_error("no such value: " + std::string(name));
+    return Told(*value, means_.Eye == nullptr ? std::nullopt : means_.Eye->Seen(*control, property, *value));
 }
 
 }  // namespace platform::headless

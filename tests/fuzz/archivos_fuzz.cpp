@@ -26,15 +26,15 @@ private:
     void Open(const char* entry) {
         if (Front().Name == "frmPresenta") Press(u'a');
         if (entry == kResume) return Resume();
-        headless_->screen.Click(*windows_.front()->Find(entry));
+        Hand().Click(*windows_.front()->Find(entry));
     }
 
     void Resume() {
         auto* list = dynamic_cast<platform::ListBox*>(Front().Find("lstLista"));
         if (list == nullptr) return JugadorAlAzar::Move();
-        headless_->screen.Select(*list, static_cast<int>(moment_) % 4);
-        headless_->screen.Type(dynamic_cast<platform::TextBox&>(*Front().Find("txtContraseña")), Game().Contraseña);
-        headless_->screen.Click(*Front().Find("cmdReanudar"));
+        Hand().Select(*list, static_cast<int>(moment_) % 4);
+        Hand().Type(dynamic_cast<platform::TextBox&>(*Front().Find("txtContraseña")), Game().Contraseña);
+        Hand().Click(*Front().Find("cmdReanudar"));
     }
 
     static constexpr const char* kResume = "resume";

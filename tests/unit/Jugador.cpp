@@ -32,7 +32,9 @@ Jugador::Jugador() {
 
 void Jugador::Restart() {
     juego_.reset();
-    headless_ = std::make_unique<headless::Headless>(files_);
+    platform_ = std::make_unique<Platform>(files_);
+    headless_ = &platform_->Services();
+    if (OnEnd) headless_->SetEnd(OnEnd);
     juego_ = std::make_unique<juego::Juego>(headless_->Services());
     windows_ = juego_->Ventanas();
     headless_->SetPlayer([this] { return OneMove(); });
@@ -59,7 +61,7 @@ bool Jugador::OneMove() {
 }
 
 void Jugador::PressKey(const Key& key) {
-    if (!headless_->screen.Press(key)) headless_->screen.TypeKey(key);
+    Hand().Press(key);
 }
 
 char16_t Jugador::GoodLetter() const {
@@ -122,13 +124,13 @@ void JugadorAlAzar::Move() {
     } else if (chance < 70) {
         PressKey(Pick(4) == 0 ? kEscape : kEnter);
     } else if (chance < 74 && !free) {
-        headless_->screen.Close(Front());
+        Hand().Close();
     } else if (chance < 78) {
         TypeAnything();
     } else if (chance < 80) {
         PressKey(PlainKey(Pick(2) == 0 ? KeyLeft : KeyF1 + Pick(5)));
     } else if (free && !inPlay_ && chance < 88) {
-        headless_->screen.Click(*windows_.front()->Find(Pick(3) == 0 ? "mnuReanudar" : "mnuNuevo"));
+        Hand().Click(*windows_.front()->Find(Pick(3) == 0 ? "mnuReanudar" : "mnuNuevo"));
     } else {
         ClickAnything();
     }
@@ -148,17 +150,17 @@ Control* JugadorAlAzar::AnyControl(Form& form) {
 void JugadorAlAzar::ClickAnything() {
     headless_->AcceptPrinter = Pick(2) == 0;
     Form& form = Pick(4) == 0 ? *windows_[static_cast<std::size_t>(Pick(static_cast<int>(windows_.size())))] : Front();
-    if (Control* control = AnyControl(form)) headless_->screen.Click(*control);
+    if (Control* control = AnyControl(form)) Hand().Click(*control);
 }
 
 void JugadorAlAzar::TypeAnything() {
     static const std::array<Text, 6> kTexts = {u"", u"a", u"Ana y Luis", u" ", u"ťñ€ÿ", u"12345678901234567890"};
     for (Control* control : Front().Controls()) {
         if (control->kind == Kind::TextBox) {
-            headless_->screen.Type(static_cast<TextBox&>(*control),
-                                   kTexts.at(static_cast<std::size_t>(Pick(3) == 0 ? Pick(6) : 1)));
+            Hand().Type(static_cast<TextBox&>(*control),
+                        kTexts.at(static_cast<std::size_t>(Pick(3) == 0 ? Pick(6) : 1)));
         }
-        if (control->kind == Kind::ListBox) headless_->screen.Select(static_cast<ListBox&>(*control), Pick(4));
+        if (control->kind == Kind::ListBox) Hand().Select(static_cast<ListBox&>(*control), Pick(4));
     }
 }
 
@@ -178,9 +180,9 @@ void JugadorQueSabe::Move() {
     if (&Front() != windows_.front()) return PressKey(kEnter);
     if (!started_) {
         const auto& mode = juego::Modos.at(static_cast<std::size_t>(mode_ - 1));
-        headless_->screen.Click(static_cast<juego::VentanaZarpi&>(*windows_.front()).*mode.Entrada);
+        Hand().Click(static_cast<juego::VentanaZarpi&>(*windows_.front()).*mode.Entrada);
         started_ = true;
-        headless_->screen.Click(*windows_.front()->Find("mnuNuevo"));
+        Hand().Click(*windows_.front()->Find("mnuNuevo"));
         return;
     }
     if (Game().fFinPartida) {

@@ -4,11 +4,11 @@
 #include <random>
 #include <string>
 
-#include "headless/Headless.h"
+#include "Platform.h"
 #include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
 
-/// Players for tests: each plays the whole program on the platform in memory, in a game folder of its own.
+/// Players for tests: each plays the whole program by hand, in a game folder of its own in memory.
 class Jugador {
 public:
     Jugador();
@@ -16,6 +16,9 @@ public:
 
     /// The stored files that the player's programs share.
     platform::Files& Files() { return files_; }
+
+    /// Takes the end of a program, and must not come back; where there is none an exception does it.
+    std::function<void()> OnEnd;
 
 protected:
     /// Starts the program anew; the files stay.
@@ -28,13 +31,15 @@ protected:
 
     const juego::Zarpi& Game() const { return static_cast<const juego::Zarpi&>(*windows_.front()); }
     platform::Form& Front() const { return *headless_->screen.Front(); }
+    [[nodiscard]] platform::headless::Hand& Hand() const { return platform_->Hand(); }
     /// A letter that uncovers something now; 0 if the word needs none.
     char16_t GoodLetter() const;
     void Press(char16_t character) { PressKey(platform::KeyOf(character)); }
     void PressKey(const platform::Key& key);
 
     platform::headless::MemoryFiles files_;
-    std::unique_ptr<platform::headless::Headless> headless_;
+    std::unique_ptr<Platform> platform_;
+    platform::headless::Headless* headless_ = nullptr;
     std::unique_ptr<juego::Juego> juego_;
     std::vector<platform::Form*> windows_;
     int moves_ = 0;

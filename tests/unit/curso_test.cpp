@@ -106,7 +106,7 @@ private:
             Type("txtContrarep", Pick(5) == 0 ? u"y" : u"x");
         }
         if (front == "frmReanudar") {
-            headless_->screen.Select(static_cast<ListBox&>(*form.Find("lstLista")), static_cast<int>(Pick(4)));
+            Hand().Select(static_cast<ListBox&>(*form.Find("lstLista")), static_cast<int>(Pick(4)));
             Type("txtContraseña", Pick(6) == 0 ? u"y" : u"x");
         }
         if (front == "frmDiploma" && Pick(20) != 0) return PressKey(PlainKey(Pick(5) == 0 ? KeyRight : KeyLeft));
@@ -144,11 +144,9 @@ private:
         Press(errs ? static_cast<char16_t>(u'A' + Pick(26)) : good);
     }
 
-    void Type(const char* box, TextView text) {
-        headless_->screen.Type(static_cast<TextBox&>(*Front().Find(box)), text);
-    }
+    void Type(const char* box, TextView text) { Hand().Type(static_cast<TextBox&>(*Front().Find(box)), text); }
     void Click(const std::string& name) {
-        if (Control* control = Front().Find(name)) headless_->screen.Click(*control);
+        if (Control* control = Front().Find(name)) Hand().Click(*control);
     }
     std::size_t Pick(std::size_t n) { return random_() % n; }
 

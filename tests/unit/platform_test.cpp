@@ -1,30 +1,32 @@
-// The rules of windows and timers that every platform keeps.
+// The rules of windows and timers that every platform keeps, held on each of them by the hand of a player.
+
+#include "Platform.h"
 
 #include <gtest/gtest.h>
 #include <string>
 
-#include "headless/Headless.h"
 #include "headless/MemoryFiles.h"
 
 namespace platform::headless {
 namespace {
 
 struct Main : Form {
-    Main() : Form("Main", {.KeyPreview = true}) {}
+    Main() : Form("Main", {.Width = 6000, .Height = 4500, .KeyPreview = true}) {}
     Menu bar{*this, "bar", {.Caption = u"&Bar"}};
     Menu entry{bar, "entry", {.Caption = u"Entry", .Shortcut = ControlKey('E')}};
-    Label label{*this, "label", {}, {.Caption = u"design"}};
-    CommandButton button{*this, "button", {}, {.Default = true}};
-    Shape shape{*this, "shape", {}, {}};
+    Label label{*this, "label", {150, 150, 1500, 450}, {.Caption = u"design"}};
+    CommandButton button{*this, "button", {150, 750, 1500, 450}, {.Default = true}};
+    Shape shape{*this, "shape", {150, 150, 1500, 450}, {}};
     Timer fast{*this, "fast", 100};
     Timer slow{*this, "slow", 150};
 };
 
 struct Dialog : Form {
-    Dialog() : Form("Dialog", {}) {}
-    CommandButton ok{*this, "ok", {}, {.Default = true, .TabIndex = 2}};
-    CommandButton no{*this, "no", {}, {.Cancel = true, .TabIndex = 3}};
-    TextBox box{*this, "box", {}, {.MaxLength = 5, .TabIndex = 1}};
+    Dialog() : Form("Dialog", {.Width = 4500, .Height = 3000}) {}
+    CommandButton ok{*this, "ok", {150, 150, 900, 450}, {.Default = true, .TabIndex = 2}};
+    CommandButton no{*this, "no", {1200, 150, 900, 450}, {.Cancel = true, .TabIndex = 3}};
+    TextBox box{*this, "box", {150, 750, 1500, 450}, {.MaxLength = 5, .TabIndex = 1}};
+    ListBox list{*this, "list", {1800, 750, 1500, 1500}, {.TabIndex = 4}};
     Timer tick{*this, "tick", 100, true};
 };
 
@@ -38,7 +40,11 @@ protected:
         main.button.Click = [this] { story += 'b'; };
         main.label.Click = [this] { story += 'l'; };
         main.OnKeyPress = [this](int code) { story += "<" + std::to_string(code) + ">"; };
-        dialog.OnLoad = [this] { story += 'L'; };
+        dialog.OnLoad = [this] {
+            story += 'L';
+            dialog.list.List = {u"one", u"two", u"three"};
+            dialog.list.ListIndex = 1;
+        };
         dialog.OnQueryUnload = [this] {
             story += 'Q';
             headless.screen.Unload(dialog);
@@ -46,6 +52,11 @@ protected:
         dialog.ok.Click = [this] { headless.screen.Unload(dialog); };
         dialog.no.Click = [this] { story += 'n'; };
         dialog.tick.Click = [this] { story += 't'; };
+        dialog.box.Click = [this] { dialog.box.Text = u""; };
+        dialog.list.Click = [this] {
+            story += std::to_string(dialog.list.ListIndex);
+            if (dialog.list.ListIndex == 0) dialog.list.ListIndex = 1;
+        };
         headless.screen.Show(main);
     }
     /// Shows the dialog; `moves` run while it waits, one at a time.
@@ -60,10 +71,12 @@ protected:
         story += '.';
     }
     MemoryFiles files;
-    Headless headless{files};
     Main main;
     Dialog dialog;
     std::string story;
+    Platform platform{files};
+    Headless& headless = platform.Services();
+    Hand& hand = platform.Hand();
     Screen& screen = headless.screen;
 };
 
@@ -93,62 +106,61 @@ TEST_F(Windows, TimersDueTogetherComeInTheOrderOfTheirStart) {
 
 TEST_F(Windows, AModalFormBlocksInputAndLetsTimersGoOn) {
     main.fast.Start();
-    ShowModal({[this] { EXPECT_EQ(screen.Click(main.button), Refusal::Blocked); },
-               [this] { EXPECT_EQ(screen.Click(main.entry), Refusal::Blocked); },
-               [this] { EXPECT_EQ(screen.Click(main), Refusal::Blocked); }, [this] { screen.Press(ControlKey('E')); },
+    ShowModal({[this] { EXPECT_EQ(hand.Click(main.button), Refusal::Blocked); },
+               [this] { EXPECT_EQ(hand.Click(main.entry), Refusal::Blocked); },
+               [this] { EXPECT_EQ(hand.Click(main), Refusal::Blocked); }, [this] { hand.Press(ControlKey('E')); },
                [this] { headless.Wait(Moment(100)); }, [this] { EXPECT_EQ(screen.Close(main), Refusal::Blocked); },
-               [this] { EXPECT_EQ(screen.Click(dialog.ok), Refusal::None); }});
+               [this] { EXPECT_EQ(hand.Click(dialog.ok), Refusal::None); }});
     EXPECT_EQ(story, "LftQ.");
     headless.Wait(Moment(100));
     EXPECT_EQ(story, "LftQ.f") << "the timers of a closed form stand still";
-    EXPECT_EQ(screen.Click(dialog.ok), Refusal::Closed);
+    EXPECT_EQ(hand.Click(dialog.ok), Refusal::Closed);
 }
 
 TEST_F(Windows, TheClosingRoutineRunsOnce) {
-    ShowModal({[this] { screen.Close(dialog); }});
+    ShowModal({[this] { hand.Close(); }});
     EXPECT_EQ(story, "LQ.");
     story.clear();
-    ShowModal({[this] { screen.Press({.Code = KeyEnter, .Character = 13}); }});
+    ShowModal({[this] { hand.Press({.Code = KeyEnter, .Character = 13}); }});
     EXPECT_EQ(story, "LQ.");
 }
 
 TEST_F(Windows, FormsGoBackToTheirDesign) {
-    ShowModal({[this] { screen.Type(dialog.box, u"ñťabcdefg"); }, [this] { EXPECT_EQ(dialog.box.Text, u"ñabcd"); },
-               [this] { dialog.ok.Top = 7; }, [this] { screen.Close(dialog); }});
+    ShowModal({[this] { hand.Type(dialog.box, u"ñťabcdefg"); }, [this] { EXPECT_EQ(dialog.box.Text, u"ñabcd"); },
+               [this] { dialog.ok.Top = 7; }, [this] { hand.Close(); }});
     EXPECT_EQ(dialog.box.Text, u"ñabcd") << "what a form held can be read after its closing";
-    ShowModal({[this] { EXPECT_EQ(dialog.box.Text, u""); }, [this] { EXPECT_EQ(dialog.ok.Top, 0); },
-               [this] { EXPECT_EQ(dialog.Focus(), &dialog.box); }, [this] { screen.Close(dialog); }});
+    ShowModal({[this] { EXPECT_EQ(dialog.box.Text, u""); }, [this] { EXPECT_EQ(dialog.ok.Top, 150); },
+               [this] { EXPECT_EQ(dialog.Focus(), &dialog.box); }, [this] { hand.Close(); }});
 }
 
 TEST_F(Windows, KeysGoTheirWay) {
-    screen.Press(KeyOf(u'ñ'));
-    screen.Press(KeyOf(u'€'));
+    hand.Press(KeyOf(u'ñ'));
+    hand.Press(KeyOf(u'€'));
     EXPECT_EQ(KeyOf(u'%').Code, KeyNone) << "a character is no arrow key";
-    screen.Press(PlainKey(KeyLeft));
-    screen.Press(ControlKey('A'));
-    screen.Press(ControlKey('E'));
-    screen.Press({.Code = KeyEnter, .Character = 13});
+    hand.Press(PlainKey(KeyLeft));
+    hand.Press(ControlKey('A'));
+    hand.Press(ControlKey('E'));
+    hand.Press({.Code = KeyEnter, .Character = 13});
     EXPECT_EQ(story, "<241><128><1>e<13>b");
     story.clear();
     main.entry.Enabled = false;
     main.button.Enabled = false;
-    screen.Press(ControlKey('E'));
-    screen.Press({.Code = KeyEnter, .Character = 13});
+    hand.Press(ControlKey('E'));
+    hand.Press({.Code = KeyEnter, .Character = 13});
     EXPECT_EQ(story, "<13>") << "the shortcut of a disabled entry is no letter";
-    ShowModal({[this] { screen.Press({.Code = KeyEscape, .Character = 27}); },
-               [this] { EXPECT_FALSE(screen.Press(KeyOf(u'x'))); }, [this] { screen.TypeKey(KeyOf(u'x')); },
-               [this] { EXPECT_EQ(dialog.box.Text, u"x"); }, [this] { screen.Focus(dialog.no); },
-               [this] { screen.Press({.Code = KeySpace, .Character = u' '}); }, [this] { screen.Close(dialog); }});
-    EXPECT_EQ(story, "<13>LnnQ.");
+    ShowModal({[this] { hand.Press({.Code = KeyEscape, .Character = 27}); }, [this] { hand.Press(KeyOf(u'x')); },
+               [this] { EXPECT_EQ(dialog.box.Text, u"x"); }, [this] { hand.Click(dialog.no); },
+               [this] { hand.Press({.Code = KeySpace, .Character = u' '}); }, [this] { hand.Close(); }});
+    EXPECT_EQ(story, "<13>LnnnQ.");
 }
 
 TEST_F(Windows, AClickReachesOnlyWhatIsThere) {
     main.button.Enabled = false;
-    EXPECT_EQ(screen.Click(main.button), Refusal::Disabled);
+    EXPECT_EQ(hand.Click(main.button), Refusal::Disabled);
     main.label.Visible = false;
-    EXPECT_EQ(screen.Click(main.label), Refusal::Hidden);
+    EXPECT_EQ(hand.Click(main.label), Refusal::Hidden);
     screen.Hide(main);
-    EXPECT_EQ(screen.Click(main.entry), Refusal::Closed);
+    EXPECT_EQ(hand.Click(main.entry), Refusal::Closed);
     EXPECT_EQ(story, "");
 }
 
@@ -161,13 +173,23 @@ TEST_F(Windows, ButtonsStandBeforeLabelsWhateverComesToTheFront) {
     EXPECT_EQ(order(), (std::vector<Control*>{&main.button, &main.label, &main.shape}));
 }
 
+TEST_F(Windows, AClickIsOneChoiceWhateverIsSelected) {
+    ShowModal({[this] { hand.Select(dialog.list, 2); }, [this] { hand.Select(dialog.list, 2); },
+               [this] { hand.Select(dialog.list, 0); }, [this] { hand.Select(dialog.list, 7); },
+               [this] { EXPECT_EQ(dialog.list.ListIndex, 1); }, [this] { EXPECT_EQ(dialog.Focus(), &dialog.list); },
+               [this] { hand.Type(dialog.box, u"abc"); }, [this] { EXPECT_EQ(dialog.box.Text, u"abc"); },
+               [this] { hand.Click(dialog.box); }, [this] { EXPECT_EQ(dialog.box.Text, u""); },
+               [this] { hand.Close(); }});
+    EXPECT_EQ(story, "L220Q.");
+}
+
 TEST_F(Windows, TheEndRunsNothingMore) {
     dialog.ok.Click = [this] {
         screen.End();
         story += '!';
     };
-    EXPECT_THROW(ShowModal({[this] { screen.Click(dialog.ok); }}), Ended);
-    EXPECT_EQ(story, "L");
+    EXPECT_TRUE(platform.Ends([this] { ShowModal({[this] { hand.Click(dialog.ok); }}); }));
+    EXPECT_EQ(story.find('!'), std::string::npos);
 }
 
 TEST(Generator, NeverRepeatsItselfForEqualSeeds) {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "desktop/Scale.h"
+
+namespace platform::desktop {
+
+/// Gives the application the look that it has on every desktop: the colours of the design are meant for a light one.
+void SetLook(const Scale& scale);
+
+}  // namespace platform::desktop
