@@ -58,6 +58,7 @@ class Performer:
             self.loosen(channel)
         last = max(n.end for notes in self.midi.notes.values() for n in notes)
         self.midi.end = last + self.midi.ticks(last, RING)
+        self.midi.controls[MELODY].append((self.midi.end, EXPRESSION, REST_EXPRESSION))    # a player goes on until the last event
         return self.midi
 
     def straighten(self):
@@ -168,7 +169,7 @@ class Performer:
             ends[note.pitch] = note
 
     def express(self, channel):
-        """Held notes of wind and strings grow and fade; all others keep one expression."""
+        """Held notes of wind and strings grow and fade, the last one dies away; all others keep one expression."""
         out = [(0, EXPRESSION, REST_EXPRESSION)]
         for start, together in groupby(self.midi.notes[channel], key=lambda n: n.start):
             end = max(n.end for n in together)
@@ -177,9 +178,11 @@ class Performer:
             if not sustained or held < SWELL_SECONDS or channel == self.chords:
                 out.append((start, EXPRESSION, REST_EXPRESSION))
                 continue
+            last = end == self.midi.notes[channel][-1].end
             depth = min(1, held / DEEPEST_SWELL)
             for tick in range(start, end, 40):
-                swell = math.sin(math.pi * ((tick - start) / (end - start)) ** 0.8)
+                place = (tick - start) / (end - start)
+                swell = -2.2 * place if last else math.sin(math.pi * place ** 0.8)
                 out.append((tick, EXPRESSION, round(REST_EXPRESSION + depth * (28 * swell - 8))))
         kept = [e for before, e in zip([None] + out, out) if before is None or before[2] != e[2]]
         self.midi.controls[channel] = sorted(self.midi.controls[channel] + kept)
