@@ -1,4 +1,4 @@
-; Soft key click: a fingertip on a wooden key. A breath of noise and a short low knock.
+; Soft key click: a fingertip on a wooden key. A clear tip, heard on small loudspeakers too, and a short low knock.
 <CsoundSynthesizer>
 <CsInstruments>
 sr = 44100
@@ -13,7 +13,7 @@ instr Click
   kPitch expseg 420, 0.03, 210
   aKey oscili 0.6, kPitch
   aKey *= expseg(0.001, 0.003, 1, 0.045, 0.001)
-  out (aTip * 0.8 + aKey) * linseg(1, p3 - 0.01, 1, 0.01, 0)
+  out (aTip * 2.6 + aKey) * linseg(1, p3 - 0.01, 1, 0.01, 0)
 endin
 </CsInstruments>
 <CsScore>

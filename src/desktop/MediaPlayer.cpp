@@ -1,11 +1,25 @@
 #include "desktop/MediaPlayer.h"
 
-#include <QtGlobal>
-#include <chrono>
-
-#include "desktop/Mixer.h"
+#include <QCoreApplication>
+#include <QFile>
+#include <QLibrary>
+#include <memory>
 
 namespace platform::desktop {
+
+namespace {
+
+/// The module lies beside the program, or where it was installed.
+std::unique_ptr<Mixer> LoadMixer() {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const QString& folder : {program, program + '/' + ZARPI_MODULES}) {
+        const auto make = reinterpret_cast<MakeMixer>(QLibrary::resolve(folder + '/' + ZARPI_MIXER, kMakeMixer));
+        if (make != nullptr) return std::unique_ptr<Mixer>(make());
+    }
+    return nullptr;
+}
+
+}  // namespace
 
 MediaPlayer::~MediaPlayer() {
     {
@@ -26,7 +40,7 @@ void MediaPlayer::Start() {
 void MediaPlayer::Command(const MediaChannel& channel, MediaCommand command) {
     if (command == MediaCommand::Open) files_[channel.Name] = ToUtf8(channel.FileName);
     if (command == MediaCommand::Open || command == MediaCommand::Prev) return;  // nothing to be heard
-    Order order{channel.Name, files_[channel.Name], command};
+    MediaOrder order{channel.Name, files_[channel.Name], command, channel.OverMusic};
     if (command == MediaCommand::Close) files_.erase(channel.Name);
     {
         const std::lock_guard lock(mutex_);
@@ -37,24 +51,21 @@ void MediaPlayer::Command(const MediaChannel& channel, MediaCommand command) {
 
 void MediaPlayer::Work() {
     using namespace std::chrono_literals;
-    constexpr auto kLook = 1s;
-    Mixer mixer;
-    const auto called = [this] { return ending_ || !orders_.empty(); };
+    const std::unique_ptr<Mixer> mixer = LoadMixer();
     std::unique_lock lock(mutex_);
     while (!ending_) {
-        if (!orders_.empty()) {
-            const Order order = std::move(orders_.front());
-            orders_.pop_front();
+        if (orders_.empty()) {
             lock.unlock();
-            mixer.Do(order.channel, order.file, order.command);
+            const auto patience = mixer == nullptr ? 1h : mixer->Attend();
             lock.lock();
-        } else if (!mixer.IsOpen()) {
-            wake_.wait(lock, called);
-        } else if (!wake_.wait_for(lock, kLook, called)) {
-            lock.unlock();
-            mixer.RestIfSilent();
-            lock.lock();
+            wake_.wait_for(lock, patience, [this] { return ending_ || !orders_.empty(); });
+            continue;
         }
+        const MediaOrder order = std::move(orders_.front());
+        orders_.pop_front();
+        lock.unlock();
+        if (mixer != nullptr) mixer->Do(order);
+        lock.lock();
     }
 }
 

@@ -6,6 +6,7 @@
 #include <mutex>
 #include <thread>
 
+#include "desktop/Mixer.h"
 #include "platform/Services.h"
 
 namespace platform::desktop {
@@ -16,23 +17,18 @@ public:
     MediaPlayer() = default;
     ~MediaPlayer() override;
 
-    /// Commands are kept from the beginning and carried out from here on.
+    /// Commands are kept from the beginning and carried out from here on. Without its module the player is silent.
     void Start();
 
     void Command(const MediaChannel& channel, MediaCommand command) override;
 
 private:
-    struct Order {
-        std::string channel;
-        std::string file;
-        MediaCommand command;
-    };
     void Work();
 
     std::map<std::string, std::string> files_;  // what each channel was last told to open
     std::mutex mutex_;
     std::condition_variable wake_;
-    std::deque<Order> orders_;
+    std::deque<MediaOrder> orders_;
     bool ending_ = false;
     std::thread worker_;
 };

@@ -200,7 +200,7 @@ struct VentanaZarpi : Form {
     // Media channels
     MediaChannel sonComodín{"sonComodín", {}};
     MediaChannel sonCaída{"sonCaída", {}};
-    MediaChannel sonPal16{"sonPal16", {}};
+    MediaChannel sonPal16{.Name = "sonPal16", .FileName = {}, .OverMusic = true};
     MediaChannel sonPrisa{"sonPrisa", {}};
     MediaChannel sonTeclado{"sonTeclado", {}};
     std::array<MediaChannel, 12> sonMusica = CanalesMusica();

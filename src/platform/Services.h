@@ -87,6 +87,7 @@ public:
 struct MediaChannel {
     std::string Name;
     Text FileName;
+    bool OverMusic = false;  ///< what it sounds is to be heard over the music, which goes back meanwhile
 };
 
 enum class MediaCommand {

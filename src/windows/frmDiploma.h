@@ -38,7 +38,7 @@ public:
     Shape Shape1{*this, "Shape1", {360, 330, 10905, 6400}, {.BorderColor = DarkRed, .BorderWidth = 3}};
     Shape shpAceptar{*this, "shpAceptar", {3600, 7380, 1605, 525}, ButtonPlate()};
     Shape shpImprimir{*this, "shpImprimir", {6420, 7380, 1605, 525}, ButtonPlate()};
-    MediaChannel sonDiploma{"sonDiploma", {}};
+    MediaChannel sonDiploma{.Name = "sonDiploma", .FileName = {}, .OverMusic = true};
 
 private:
     static TextBoxLook Hueco(double size);

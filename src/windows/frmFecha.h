@@ -37,7 +37,7 @@ public:
     Shape shpAceptar{*this, "shpAceptar", {3510, 5790, 1605, 525}, ButtonPlate()};
     Timer tmrTimer1{*this, "tmrTimer1", 300, true};
     Timer tmrTimer2{*this, "tmrTimer2", 300, true};
-    MediaChannel sonConseguido{"sonConseguido", {}};
+    MediaChannel sonConseguido{.Name = "sonConseguido", .FileName = {}, .OverMusic = true};
 
 private:
     static std::pair<Place, PictureLook> Estrella(int i);

@@ -27,9 +27,9 @@ public:
     Shape shpAceptar{*this, "shpAceptar", {2760, 3840, 1605, 525}, ButtonPlate()};
     Timer Timer1{*this, "Timer1", 300};
     Timer Timer2{*this, "Timer2", 300};
-    MediaChannel sonPleno{"sonPleno", {}};
-    MediaChannel sonExtra{"sonExtra", {}};
-    MediaChannel sonZarpi200{"sonZarpi200", {}};
+    MediaChannel sonPleno{.Name = "sonPleno", .FileName = {}, .OverMusic = true};
+    MediaChannel sonExtra{.Name = "sonExtra", .FileName = {}, .OverMusic = true};
+    MediaChannel sonZarpi200{.Name = "sonZarpi200", .FileName = {}, .OverMusic = true};
 
 private:
     static std::pair<Place, PictureLook> ZarpiPalabra(int i);

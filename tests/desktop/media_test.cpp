@@ -1,3 +1,4 @@
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -5,6 +6,7 @@
 #include <QtEndian>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <vector>
 
 #include "desktop/MediaPlayer.h"
 
@@ -12,6 +14,7 @@ namespace platform::desktop {
 namespace {
 
 constexpr int kHeard = 300;  // of 32,767
+constexpr int kLoud = 9000;
 
 template <class Number>
 QByteArray Bytes(Number number) {
@@ -20,20 +23,18 @@ QByteArray Bytes(Number number) {
     return bytes;
 }
 
-/// A second of a tone.
-QByteArray Wave() {
-    constexpr quint32 kRate = 8000;
+/// Some seconds of a tone, or of silence, with a comment in front.
+QByteArray Wave(int loudness, quint32 seconds, const QByteArray& comment = "none") {
+    constexpr quint32 kRate = 44100;
     QByteArray samples;
-    for (quint32 i = 0; i < kRate; ++i) samples += Bytes(static_cast<qint16>(9000 * std::sin(i * 0.5)));
-    const quint32 length = static_cast<quint32>(samples.size());
-    return "RIFF" + Bytes(36 + length) + "WAVEfmt " + Bytes(quint32{16}) + Bytes(quint16{1}) + Bytes(quint16{1}) +
-           Bytes(kRate) + Bytes(2 * kRate) + Bytes(quint16{2}) + Bytes(quint16{16}) + "data" + Bytes(length) + samples;
-}
-
-/// One long note of a flute.
-QByteArray Midi() {
-    const QByteArray track = QByteArray::fromHex("00C04900903C7F8F00803C0000FF2F00");
-    return QByteArray::fromHex("4D546864000000060000000100604D54726B000000") + char(track.size()) + track;
+    for (quint32 i = 0; i < seconds * kRate; ++i) {
+        samples += Bytes(static_cast<qint16>(loudness * std::sin(i * 0.25)));
+    }
+    const QByteArray chunks = "note" + Bytes(static_cast<quint32>(comment.size())) + comment + "data" +
+                              Bytes(static_cast<quint32>(samples.size())) + samples;
+    return "RIFF" + Bytes(static_cast<quint32>(28 + chunks.size())) + "WAVEfmt " + Bytes(quint32{16}) +
+           Bytes(quint16{1}) + Bytes(quint16{1}) + Bytes(kRate) + Bytes(2 * kRate) + Bytes(quint16{2}) +
+           Bytes(quint16{16}) + chunks;
 }
 
 void Save(const QString& path, const QByteArray& content) {
@@ -42,37 +43,57 @@ void Save(const QString& path, const QByteArray& content) {
     file.write(content);
 }
 
-/// A player whose sound goes to a file.
+/// A player whose sound goes to a file. The mixer knows a file by its content: its music here is a tone.
 struct Sound : testing::Test {
     Sound() {
         QDir::setCurrent(folder.path());
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", folder.filePath("out.raw").toUtf8());
-        Save("Caída.wav", Wave());
-        Save("Musica01.mid", Midi());
-        Save("bad.wav", "RIFF no sound at all");
-        Save("bad.mid", "MThd");
+        qputenv("SDL_SOUNDFONTS", "none");
+        Save("Caída.wav", Wave(kLoud, 1));
+        Save("Pleno.wav", Wave(0, 1));
+        Save("Musica01.mid", Wave(kLoud, 10));
     }
     ~Sound() override { QDir::setCurrent(before); }
 
-    /// The loudest of what was to be heard.
-    static int Peak() {
+    /// The peak of each 10 ms of what was to be heard, and forgets it.
+    static std::vector<int> Heard() {
         QFile file("out.raw");
-        if (!file.open(QIODevice::ReadOnly)) return 0;
+        if (!file.open(QIODevice::ReadWrite)) return {};
         const QByteArray raw = file.readAll();
-        int peak = 0;
-        for (qsizetype i = 0; i + 1 < raw.size(); i += 2) {
-            peak = std::max(peak, std::abs(int{qFromLittleEndian<qint16>(raw.constData() + i)}));
+        file.resize(0);
+        constexpr qsizetype kStep = 441 * 4;  // bytes, of two loudspeakers
+        std::vector<int> peaks;
+        for (qsizetype start = 0; start + kStep <= raw.size(); start += kStep) {
+            int peak = 0;
+            for (qsizetype i = start; i < start + kStep; i += 2) {
+                peak = std::max(peak, std::abs(int{qFromLittleEndian<qint16>(raw.constData() + i)}));
+            }
+            peaks.push_back(peak);
         }
-        return peak;
+        return peaks;
+    }
+    static int Peak() {
+        const auto heard = Heard();
+        return heard.empty() ? 0 : *std::ranges::max_element(heard);
+    }
+    static bool Sounds() {
+        return QTest::qWaitFor([] { return Peak() > kLoud / 2; }, 10'000);
+    }
+    /// How many hundredths of a second were between two loudnesses.
+    static auto Between(const std::vector<int>& heard, int low, int high) {
+        return std::ranges::count_if(heard, [=](int peak) { return peak > low && peak < high; });
     }
 
     const QString before = QDir::currentPath();
     const QTemporaryDir folder;
     MediaPlayer player;
+    MediaChannel music{"sonMusica(1)", {}};
 };
 
 TEST_F(Sound, FaultyFilesAreSilentAndTheNextOneSounds) {
+    Save("bad.wav", "RIFF no sound at all");
+    Save("bad.mid", "MThd");
     MediaChannel bad{"sonPrisa", {}};
     for (const char16_t* name : {u"gone.wav", u"bad.wav", u"gone.mid", u"bad.mid"}) PlaySound(player, bad, name);
     player.Start();
@@ -80,17 +101,60 @@ TEST_F(Sound, FaultyFilesAreSilentAndTheNextOneSounds) {
     EXPECT_LT(Peak(), kHeard);
     MediaChannel good{"sonCaída", {}};
     PlaySound(player, good, u"Caída.wav");
-    EXPECT_TRUE(QTest::qWaitFor([] { return Peak() > 10 * kHeard; }, 10'000));
+    EXPECT_TRUE(Sounds());
 }
 
-TEST_F(Sound, MusicSoundsUntilItIsClosed) {
+TEST_F(Sound, MusicFadesOutWhenItIsClosedAndGivesWayToTheNextPiece) {
+    Save("Musica02.mid", Wave(kLoud / 4, 10));
     player.Start();
-    MediaChannel music{"sonMusica(1)", {}};
     PlaySound(player, music, u"Musica01.mid");
-    EXPECT_TRUE(QTest::qWaitFor([] { return Peak() > kHeard; }, 10'000)) << "is a SoundFont installed?";
+    ASSERT_TRUE(Sounds());
+    player.Command(music, MediaCommand::Close);
+    MediaChannel other{"sonMusica(2)", {}};
+    PlaySound(player, other, u"Musica02.mid");
+    QTest::qWait(500);
+    const auto heard = Heard();
+    EXPECT_GE(Between(heard, kHeard, kLoud - 500), 3) << "on its way down";
+    ASSERT_FALSE(heard.empty());
+    EXPECT_NEAR(heard.back(), kLoud / 4, 200) << "the next piece";
+    player.Command(other, MediaCommand::Close);
+    QTest::qWait(300);
+    Heard();
+    QTest::qWait(300);
+    EXPECT_LT(Peak(), kHeard);
+}
+
+TEST_F(Sound, MusicGoesBackWhileWhatIsHeardOverItSounds) {
+    player.Start();
+    PlaySound(player, music, u"Musica01.mid");
+    ASSERT_TRUE(Sounds());
+    MediaChannel click{"sonTeclado", {}};
+    PlaySound(player, click, u"Pleno.wav");
+    QTest::qWait(600);
+    EXPECT_EQ(Between(Heard(), kHeard, kLoud - 500), 0) << "other sounds leave it as it is";
+    MediaChannel reward{.Name = "sonPleno", .FileName = {}, .OverMusic = true};
+    PlaySound(player, reward, u"Pleno.wav");
+    const auto wentBack = [] {
+        const auto heard = Heard();
+        return !heard.empty() && std::abs(heard.back() - 0.316 * kLoud) < 0.02 * kLoud;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(wentBack, 900)) << "10 dB";
+    EXPECT_TRUE(QTest::qWaitFor([] { return Peak() > kLoud - 500; }, 3000)) << "and comes up again";
+}
+
+TEST_F(Sound, ARenditionIsHeardInPlaceOfTheVeryNotesItWasMadeFrom) {
+    const QByteArray notes = "MThd";  // nothing to be heard in them
+    const auto digest = QCryptographicHash::hash(notes, QCryptographicHash::Sha1).toHex();
+    Save("Musica01.mid", notes);
+    Save("Musica01.ogg", Wave(kLoud, 10, "source=sha1:" + digest));
+    player.Start();
+    PlaySound(player, music, u"Musica01.mid");
+    EXPECT_TRUE(Sounds());
     player.Command(music, MediaCommand::Close);
     QTest::qWait(300);
-    QFile::resize("out.raw", 0);
+    Save("Musica01.mid", notes + " a piece of the player's own");
+    Heard();
+    PlaySound(player, music, u"Musica01.mid");
     QTest::qWait(300);
     EXPECT_LT(Peak(), kHeard);
 }
