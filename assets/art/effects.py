@@ -7,9 +7,21 @@ from typing import Callable
 
 from geometry import Affine, Point, ellipse, star
 from ink import Ink
-from palette import DUST, FLASH, GLOOM, LINE, SHADOW, STAR, SWEAT, TONGUE
+from palette import DUST, FLASH, GLOOM, LINE, PLATE, SHADOW, STAR, SWEAT, TONGUE
 
 DROP = [(0, -7, 1), (3.4, -0.5), (3.2, 3.6), (0, 5.4), (-3.2, 3.6), (-3.4, -0.5)]
+
+
+def plate(ink: Ink) -> None:
+    """The edge of the pusher's plate, on which the left column of every pose on the ledge lies."""
+    ink.raw(f'<rect width="1" height="{ink.height}" fill="{PLATE}"/>')
+
+
+def rim(ink: Ink, top: float) -> None:
+    """Dust at the brink: it fills the lower right corner of the picture, whether the ledge goes on beyond or ends before."""
+    right, low = ink.width - 1.1, ink.height - 1.1
+    ink.shape([(right - 22, low, 1), (right - 22.5, low - 5), (right - 18, low - 7.5, 1), (right - 16.5, top + 1.5), (right - 9, top),
+               (right - 5.5, top + 5, 1), (right - 1, top + 6), (right, low - 4), (right - 0.3, low, 1)], DUST)
 
 
 def shadow(ink: Ink, x: float, y: float, half: float) -> None:
@@ -101,6 +113,6 @@ def ground_crack(ink: Ink, x: float, y: float, half: float) -> None:
 
 
 EFFECTS: dict[str, Callable[..., None]] = {
-    "shadow": shadow, "sweat": sweat, "arcs": arcs, "dash": dash, "puff": puff, "bang": bang, "star": little_star,
+    "plate": plate, "rim": rim, "shadow": shadow, "sweat": sweat, "arcs": arcs, "dash": dash, "puff": puff, "bang": bang, "star": little_star,
     "orbit": orbit, "cross": cross, "steam": steam, "storm": storm, "shout": shout_lines, "crack": ground_crack,
 }
