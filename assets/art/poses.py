@@ -42,7 +42,7 @@ POSES: dict[str, Pose] = {
         feet=(Foot((41, 163), -2), Foot((77, 148), -6, -26)),
         face=Face(Eyes(size=1.14, pupil=0.6, look=(0.7, 0.7), slant=-0.28, brow=3), "wobble", 0.5),
         ears=(-8, 24), scarf=((39, 108), (32, 124), (20, 134)), tail=((37, 139), (21, 147), (13, 138)),
-        over=(("rim", 156), ("arcs", 17, 118, 17, -128, -72, 1), ("arcs", 87, 107, 18.5, -82, -34, 1), ("sweat", 89, 60, 35))),
+        over=(("rim",), ("arcs", 17, 118, 17, -128, -72, 1), ("arcs", 87, 107, 18.5, -82, -34, 1), ("sweat", 89, 60, 35))),
     "Zarpi6": Pose(
         size=LEDGE, scale=0.95, hips=(52, 125), neck=(52, 96), head=(53, 73), tilt=0,
         hands=(Hand((15, 108), -6, -70, layer="back"), Hand((90, 108), 6, 70)),
