@@ -25,7 +25,7 @@ POSES: dict[str, Pose] = {
     "Zarpi2": Pose(
         size=LEDGE, scale=0.95, hips=(46, 140), neck=(38, 112), head=(46, 87), tilt=-9,
         hands=(Hand((15, 119), -6, -80, layer="back"), Hand((72, 128), -7, 130, "fist")),
-        feet=(Foot((60, SOLE - 2), 3, -16), Foot((83, SOLE - 2), -3, -16)),
+        feet=(Foot((60, SOLE - 3), 3, -16), Foot((83, SOLE - 3), -3, -16)),
         face=Face(Eyes(lid=0.22, slant=0.3, brow=0, look=(-0.5, 0)), "grit", 0.25),
         ears=(-4, 26), scarf=((44, 112), (60, 108), (76, 114)), tail=((36, 145), (25, 156), (15, 154)),
         over=(("puff", 94, 164, 5.4), ("sweat", 85, 64, 40))),
@@ -61,7 +61,7 @@ POSES: dict[str, Pose] = {
         hands=(Hand((11, 64), -12, -6, layer="back"), Hand((94, 62), 12, 6, layer="back")),
         feet=(Foot((33, 144), 6, 26, toes=-1), Foot((74, 147), -6, 26)),
         face=Face(Eyes("happy"), "cheer", 0.25), ears=(-6, -4),
-        scarf=((44, 98), (34, 110), (24, 126)), tail=((42, 127), (26, 132), (19, 146)),
+        scarf=((44, 98), (34, 110), (24, 126)), tail=((48, 120), (27, 133), (19, 146)),
         under=(("shadow", 53, 167, 22),), over=(("dash", 38, 153, 38, 161, 66, 156, 66, 162),)),
     "Zarpi11": Pose(
         size=LEDGE, scale=0.95, hips=(40, 136), neck=(44, 107), head=(54, 81), tilt=8, squash=(0.96, 1.05),
@@ -80,14 +80,14 @@ POSES: dict[str, Pose] = {
     "Zarpi14": Pose(
         size=LEDGE, hips=(52, 143), neck=(52, 111), head=(53, 84), tilt=-4,
         hands=(Hand((70, 127), 6, 80, "fist"), Hand((36, 124), -7, -80)),
-        feet=(Foot((40, SOLE), -1, toes=-1), Foot((66, SOLE), 1, -24)),
+        feet=(Foot((40, SOLE), -1, toes=-1), Foot((66, 166), 1, -24)),
         face=Face(CROSS, "frown", 0), ears=(24, 24),
         scarf=((42, 112), (26, 116), (14, 128)), tail=((38, 146), (24, 150), (20, 136)),
-        over=(("cross", 53, 46, 0.85), ("arcs", 72, 164, 12, -50, 0))),
+        over=(("cross", 53, 46, 0.85), ("arcs", 72, 161, 12, -50, 0))),
     "Zarpi8": Pose(
         size=GROUND, scale=1.25, hips=(96, 163), neck=(96, 136), head=(96, 104), squash=(1.1, 0.88),
         hands=(Hand((36, 114), -6, -56, layer="back"), Hand((156, 114), 6, 56, layer="back")),
-        feet=(Foot((56, 176), -6, -16, sole=True), Foot((136, 176), 6, 16, sole=True)),
+        feet=(Foot((56, 176), -2.5, -16, sole=True), Foot((136, 176), 2.5, 16, sole=True)),
         face=Face(Eyes("tight"), "shout", 0), ears=(30, 30), scarf=((84, 138), (58, 149), (30, 136)),
         under=(("bang", 95, 104, 90, 58, 13, 182), ("puff", 25, 168, 15), ("puff", 165, 168, 14)),
         over=(("puff", 16, 178, 9), ("puff", 174, 179, 8), ("star", 36, 40, 11, -100), ("star", 158, 46, 10, -75),
