@@ -15,6 +15,13 @@ def vertical(ink: Ink, *stops: tuple[float, str]) -> str:
     return _gradient(ink, "linearGradient", 'x1="0" y1="0" x2="0" y2="1"', stops)
 
 
+def column(ink: Ink, top: float, bottom: float, *colours: str) -> str:
+    """A gradient over rows of the picture, for shapes and strokes that are to share one."""
+    stops = "".join(f'<stop offset="{i / (len(colours) - 1)}" stop-color="{c}"/>' for i, c in enumerate(colours))
+    name = ink.define(f'<linearGradient id="{{id}}" gradientUnits="userSpaceOnUse" x1="0" x2="0" y1="{top}" y2="{bottom}">{stops}</linearGradient>')
+    return f"url(#{name})"
+
+
 def radial(ink: Ink, *stops: tuple[float, str], centre: Point = (0.5, 0.5), reach: float = 0.7) -> str:
     return _gradient(ink, "radialGradient", f'cx="{centre[0]}" cy="{centre[1]}" r="{reach}"', stops)
 
@@ -81,12 +88,13 @@ def smooth(line: Sequence[Point], steps: int = 8) -> list[Point]:
 
 def round_tree(ink: Ink, x: float, y: float, size: float, leaf: str, trunk: str) -> None:
     soft(ink, [(x - size * 0.1, y, 1), (x - size * 0.07, y - size, 1), (x + size * 0.07, y - size, 1), (x + size * 0.1, y, 1)], trunk, 0.6)
-    draw = random.Random(round(x * 7 + y))
+    lean = random.Random(round(x * 7 + y)).random()
     knots = []
-    for i in range(14):
-        t, r = 2 * math.pi * i / 14, size * (0.5 + 0.09 * draw.random())
+    for i in range(48):
+        t = 2 * math.pi * i / 48
+        r = size * (0.47 + 0.1 * abs(math.cos(2.5 * t + lean)))
         knots.append((x + r * math.cos(t), y - size * 1.15 + r * 0.92 * math.sin(t)))
-    soft(ink, knots, leaf, 0.9)
+    soft(ink, knots, leaf, 0.7)
 
 
 def pointed_tree(ink: Ink, x: float, y: float, size: float, leaf: str, trunk: str) -> None:

@@ -1,17 +1,14 @@
-"""The quiet grounds of the dialogs, the stars, the advertisement and the icons."""
+"""The quiet grounds of the dialogs, the stars and the advertisement."""
 
 from __future__ import annotations
 
 import math
 import random
-from dataclasses import replace
 
 from brush import blotches, fill, radial, vertical
 from geometry import Affine, Knot, ellipse, star
 from ink import Ink
 from palette import LINE, SCARF, STAR, WASH, WASH_DEEP, WASH_LIGHT, Tone
-from poses import POSES
-from rig import draw_head
 
 WASHES: dict[str, tuple[int, int]] = {
     "nivel": (568, 337), "puntos": (470, 337), "nombre": (330, 148), "guardar": (318, 249), "reanudar": (449, 445),
@@ -70,34 +67,35 @@ def _rounded(knots: list[Knot], soften: float) -> list[Knot]:
 
 
 def star_picture(design: int) -> Ink:
-    ink = Ink(53, 49, weight=2)
-    x, y = 25.5, 23.5
-    STARS[design](ink, x, y)
+    ink = Ink(49, 46, weight=2)
+    STARS[design](ink, 24.5, 22.5)
     return ink
 
 
 def _five(ink: Ink, x: float, y: float) -> None:
-    ink.shape(_rounded(star(x, y + 1.5, 23, 11.2, 5), 0.1), STAR)
+    ink.shape(_rounded(star(x, y + 1.8, 22.4, 10.9, 5), 0.1), STAR)
     for dx in (-4, 4):
         ink.flat(ellipse(x + dx, y + 1, 1.9, 3), LINE)
     ink.line([(x - 4.5, y + 6.5), (x, y + 9), (x + 4.5, y + 6.5)], 1.8)
 
 
 def _sparkle(ink: Ink, x: float, y: float) -> None:
-    ink.shape(star(x, y, 22, 7.5, 4), Tone("#fff3b0", "#ffd43b"))
-    ink.flat(star(x, y, 12, 4.4, 4), "#ffffff")
-    for dx, dy in ((15, -14), (-15, 14)):
-        ink.shape(star(x + dx, y + dy, 6, 2.4, 4), SKY, depth=1)
+    y += 0.5
+    ink.shape(star(x, y, 21, 7.2, 4), Tone("#fff3b0", "#ffd43b"))
+    ink.flat(star(x, y, 11.5, 4.2, 4), "#ffffff")
+    for dx, dy in ((14, -13), (-14, 13)):
+        ink.shape(star(x + dx, y + dy, 5.8, 2.3, 4), SKY, depth=1)
 
 
 def _eight(ink: Ink, x: float, y: float) -> None:
-    ink.shape(star(x, y, 21.5, 13, 8), Tone("#ffb13b", "#ee7f1f"))
-    ink.shape(ellipse(x, y, 8.6, 8.6, 14), STAR, depth=2)
+    y += 0.5
+    ink.shape(star(x, y, 20.6, 12.5, 8), Tone("#ffb13b", "#ee7f1f"))
+    ink.shape(ellipse(x, y, 8.4, 8.4, 14), STAR, depth=2)
 
 
 def _paw_star(ink: Ink, x: float, y: float) -> None:
-    ink.shape(_rounded(star(x, y + 1.5, 23, 13, 5), 0.2), SCARF)
-    paw_print(ink, Affine().move(x, y + 4).scale(0.95), "#ffffff")
+    ink.shape(_rounded(star(x, y + 1.8, 22.6, 12.8, 5), 0.2), SCARF)
+    paw_print(ink, Affine().move(x, y + 4).scale(0.93), "#ffffff")
 
 
 STARS = {1: _five, 2: _sparkle, 3: _eight, 4: _paw_star}
@@ -128,29 +126,3 @@ def advert() -> Ink:
     ink.raw('<text x="88" y="50.5" font-family="Liberation Sans" font-weight="700" font-size="7.6" letter-spacing="1.1" '
             'text-anchor="middle" fill="#ffffff">LA TORRE DEL LAGO</text>')
     return ink
-
-
-# --- icons ----------------------------------------------------------------------------------------------------------
-
-def head_icon(size: float) -> Ink:
-    ink = Ink(size, size, weight=size * 0.044 + 0.1, depth=size * 0.06)
-    draw_head(replace(POSES["Zarpi1"], head=(size * 0.5, size * 0.67), tilt=0, scale=size * 0.0122, ears=(-4, -4)), ink)
-    return ink
-
-
-def application_icon() -> Ink:
-    ink = Ink(256, 256, weight=7.5, depth=9)
-    tile = radial(ink, (0, "#3cc7b6"), (1, "#137f80"), centre=(0.4, 0.3), reach=0.9)
-    ink.raw(f'<rect x="6" y="6" width="244" height="244" rx="54" fill="{tile}" stroke="{LINE}" stroke-width="8"/>')
-    for x, y, angle in ((40, 206, -20), (214, 214, 24)):
-        paw_print(ink, Affine().move(x, y).turn(angle).scale(1.8), "#ffffff", 0.18)
-    draw_head(replace(POSES["Zarpi1"], head=(128, 168), tilt=0, scale=2.55, ears=(-2, -2)), ink)
-    return ink
-
-
-def dialog_icon() -> Ink:
-    ink = Ink(32, 32, weight=1.8)
-    ink.raw(f'<rect x="1.5" y="1.5" width="29" height="29" rx="7" fill="{SCARF.base}" stroke="{LINE}" stroke-width="1.8"/>')
-    paw_print(ink, Affine().move(16, 18.5).scale(1.15), "#ffffff")
-    return ink
-

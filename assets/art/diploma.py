@@ -19,6 +19,8 @@ SECOND_LINE = {1: "ha acertado las 30 palabras", 2: "han acertado las 30 palabra
 # The gaps in which the window lays its text boxes: left, top, width, height.
 GAPS = {"name": (402, 104, 163, 35), "mode": (276, 214, 213, 35), "zarpis": (320, 264, 77, 35), "plenos": (184, 318, 39, 35),
         "date": (392, 322, 129, 35)}
+# Where the window lays four small figures: the middle of their soles. Medal and seal keep clear of them.
+FIGURES = tuple((x, y) for x in (80.5, 634.5) for y in (236, 312))
 # What is written between them: x, baseline, which end x is, wording.
 WORDS = (
     (392, 129, "end", "Zarpi certifica que"), (351.5, 186, "middle", "{second}"), (266, 239, "end", "del modo"),
@@ -44,8 +46,10 @@ def diploma(players: int) -> Ink:
         _text(ink, x, y, anchor, size, "#8f1d2c" if size > SIZE else "#33241a", words.format(second=SECOND_LINE[players]))
     for left, top, width, height in GAPS.values():
         ink.raw(f'<path d="M{left - 2} {top + height + 2.5}h{width + 4}" stroke="{GOLD.shade}" stroke-width="1.4" stroke-dasharray="1 3" stroke-linecap="round"/>')
-    _seal(ink, 598, 360)
-    _ribbon_rosette(ink, 105, 366)
+    for x, y in FIGURES:
+        ink.flat(ellipse(x, y, 17, 3.2, 14), GOLD.base, 0.4)
+    _seal(ink, 590, 371)
+    _ribbon_rosette(ink, 113, 371)
     return ink
 
 
@@ -106,24 +110,24 @@ WAX = Tone("#d1343f", "#9f1f2f")
 def _tails(ink: Ink, x: float, y: float, tone: Tone) -> None:
     for side in (-1, 1):
         f = Affine().move(x, y).turn(-side * 20)
-        ink.shape(f.knots([(-10, 10, 1), (10, 10, 1), (10, 50, 1), (0, 42, 1), (-10, 50, 1)]), tone)
+        ink.shape(f.knots([(-10, 10, 1), (10, 10, 1), (10, 40, 1), (0, 33, 1), (-10, 40, 1)]), tone)
 
 
 def _seal(ink: Ink, x: float, y: float) -> None:
     _tails(ink, x, y - 4, SCARF)
-    knots = [(x + (33 + 2.2 * math.cos(t * 7.3)) * math.cos(t / 20 * 2 * math.pi), y - 10 + (33 + 2.2 * math.sin(t * 5.1)) * math.sin(t / 20 * 2 * math.pi))
+    knots = [(x + (31 + 2.2 * math.cos(t * 7.3)) * math.cos(t / 20 * 2 * math.pi), y - 10 + (31 + 2.2 * math.sin(t * 5.1)) * math.sin(t / 20 * 2 * math.pi))
              for t in range(20)]
     ink.shape(knots, WAX, depth=4)
-    ink.raw(f'<circle cx="{x}" cy="{y - 10}" r="25" fill="{WAX.base}" stroke="{WAX.shade}" stroke-width="2"/>')
-    paw_print(ink, Affine().move(x + 1, y - 6).scale(2), WAX.shade)
-    paw_print(ink, Affine().move(x, y - 7).scale(2), "#f5808a")
+    ink.raw(f'<circle cx="{x}" cy="{y - 10}" r="23.5" fill="{WAX.base}" stroke="{WAX.shade}" stroke-width="2"/>')
+    paw_print(ink, Affine().move(x + 1, y - 6).scale(1.85), WAX.shade)
+    paw_print(ink, Affine().move(x, y - 7).scale(1.85), "#f5808a")
 
 
 def _ribbon_rosette(ink: Ink, x: float, y: float) -> None:
     _tails(ink, x, y - 4, WAX)
-    ink.shape(star(x, y - 10, 36, 30, 18), GOLD, depth=3)
-    ink.shape(ellipse(x, y - 10, 25, 25, 18), Tone("#fff6dd", "#f2dca6"), depth=3)
-    draw_head(replace(POSES["Zarpi1"], head=(x, y - 4), tilt=0, scale=0.5, ears=(14, 14)), ink)
+    ink.shape(star(x, y - 10, 33, 27.5, 18), GOLD, depth=3)
+    ink.shape(ellipse(x, y - 10, 23, 23, 18), Tone("#fff6dd", "#f2dca6"), depth=3)
+    draw_head(replace(POSES["Zarpi1"], head=(x, y - 4.5), tilt=0, scale=0.46, ears=(14, 14)), ink)
 
 
 # --- curtain --------------------------------------------------------------------------------------------------------

@@ -5,11 +5,33 @@ from __future__ import annotations
 import math
 from typing import Callable
 
-from geometry import Affine, Point, ellipse, star
+from geometry import Affine, Knot, Point, ellipse, star
 from ink import Ink
-from palette import DUST, FLASH, GLOOM, LINE, SHADOW, STAR, SWEAT, TONGUE
+from palette import DUST, FLASH, GLOOM, LINE, PLATE, SHADOW, STAR, SWEAT, TONGUE
 
 DROP = [(0, -7, 1), (3.4, -0.5), (3.2, 3.6), (0, 5.4), (-3.2, 3.6), (-3.4, -0.5)]
+
+
+def plate(ink: Ink) -> None:
+    """The edge of the pusher's plate, on which the left column of a pose lies, but for the plate's round corner at the top."""
+    ink.raw(f'<rect y="11" width="1" height="{ink.height - 11}" fill="{PLATE}"/>')
+
+
+RIM_PUFFS = ((-18.5, -3.5, 4.2), (-12.5, -7.5, 5.6), (-5.2, -5, 5.2))
+
+
+def rim(ink: Ink) -> None:
+    """Dust at the brink: it fills the lower right corner of the picture, whether the ledge goes on beyond or ends before."""
+    right, low = ink.width - 1.1, ink.height - 1.1
+    cloud: list[Knot] = []
+    for i in range(37):
+        x = -22.7 + 22.7 * i / 36
+        tops = [dy - math.sqrt(r * r - (x - dx) ** 2) for dx, dy, r in RIM_PUFFS if abs(x - dx) < r]
+        cloud.append((right + x, low + min(tops, default=-3.5)))
+    ink.shape([(right - 22.7, low, 1), *cloud, (right, low, 1)], DUST)
+    for dx, dy, r in RIM_PUFFS[1:]:
+        curl = [(right + dx + 0.5 * r * math.cos(t), low + dy + 0.5 * r * math.sin(t)) for t in (2.6, 3.4, 4.2, 5.0)]
+        ink.line(curl, ink.weight * 0.6, DUST.shade)
 
 
 def shadow(ink: Ink, x: float, y: float, half: float) -> None:
@@ -101,6 +123,6 @@ def ground_crack(ink: Ink, x: float, y: float, half: float) -> None:
 
 
 EFFECTS: dict[str, Callable[..., None]] = {
-    "shadow": shadow, "sweat": sweat, "arcs": arcs, "dash": dash, "puff": puff, "bang": bang, "star": little_star,
+    "plate": plate, "rim": rim, "shadow": shadow, "sweat": sweat, "arcs": arcs, "dash": dash, "puff": puff, "bang": bang, "star": little_star,
     "orbit": orbit, "cross": cross, "steam": steam, "storm": storm, "shout": shout_lines, "crack": ground_crack,
 }

@@ -96,7 +96,7 @@ def star(x: float, y: float, outer: float, inner: float, points: int, start: flo
     return knots
 
 
-def bow(start: Point, end: Point, bend: float, steps: int = 8) -> list[Point]:
+def bow(start: Point, end: Point, bend: float, steps: int = 16) -> list[Point]:
     """Points along an arc from start to end that swings out sideways by `bend`."""
     mx, my = (start[0] + end[0]) / 2, (start[1] + end[1]) / 2
     length = math.dist(start, end) or 1
@@ -114,6 +114,7 @@ def ribbon(line: Sequence[Point], widths: Sequence[float]) -> tuple[list[Knot], 
     """The two edges of a band of changing width along a line: one side, and the other one backwards."""
     left: list[Knot] = []
     right: list[Knot] = []
+    halves: list[float] = []
     last = len(line) - 1
     for i, (x, y) in enumerate(line):
         before, after = line[max(i - 1, 0)], line[min(i + 1, last)]
@@ -124,7 +125,14 @@ def ribbon(line: Sequence[Point], widths: Sequence[float]) -> tuple[list[Knot], 
         half = (widths[low] + (widths[low + 1] - widths[low]) * (at - low)) / 2
         left.append((x + nx * half, y + ny * half))
         right.append((x - nx * half, y - ny * half))
-    return left, right[::-1]
+        halves.append(half)
+    return _outside(left, line, halves), _outside(right, line, halves)[::-1]
+
+
+def _outside(edge: list[Knot], line: Sequence[Point], halves: Sequence[float]) -> list[Knot]:
+    """An edge without the loop that it would make on the inner side of a sharp bend. Both its ends stay."""
+    clear = [k for k in edge[1:-1] if all(math.dist(k, p) > 0.96 * half for p, half in zip(line, halves))]
+    return [edge[0], *clear, edge[-1]]
 
 
 def heading(start: Point, end: Point) -> float:

@@ -2,10 +2,10 @@
 
 from __future__ import annotations
 
-from typing import Sequence
+from typing import Callable, Sequence
 
 from geometry import Knot, closed, number, opened
-from palette import LINE, Tone
+from palette import LINE, SHADE, Tone
 
 
 class Ink:
@@ -66,8 +66,35 @@ class Ink:
         self.raw(f'<path d="{path}" fill="none" stroke="{colour}" stroke-width="{number(weight)}" '
                  'stroke-linecap="round" stroke-linejoin="round"/>')
 
-    def svg(self) -> str:
-        size = f'width="{number(self.width)}" height="{number(self.height)}"'
-        box = f'viewBox="0 0 {number(self.width)} {number(self.height)}"'
-        return (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" {size} {box}>'
+    def svg(self, overscan: float = 0) -> str:
+        """`overscan` adds a margin all round, to be cut off the rendered picture: what is blurred would pale towards its edges."""
+        width, height = (number(side + 2 * overscan) for side in (self.width, self.height))
+        box = f'viewBox="{number(-overscan)} {number(-overscan)} {width} {height}"'
+        return (f'<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="{width}" height="{height}" {box}>'
                 f'<defs>{"".join(self._defs)}</defs>{"".join(self._body)}</svg>\n')
+
+
+class _Edge(Ink):
+    """Leaves of a figure its outlines alone, broader and in one colour."""
+
+    def __init__(self, under: Ink, grow: float, colour: str):
+        super().__init__(under.width, under.height, weight=under.weight, depth=under.depth)
+        self._under, self._grow, self._colour = under, grow, colour
+
+    def raw(self, element: str) -> None:
+        pass
+
+    def stroke(self, path: str, weight: float, colour: str = LINE) -> None:
+        self._under.stroke(path, weight + 2 * self._grow, self._colour)
+
+
+def sticker(ink: Ink, figure: Callable[[Ink], None], paper: float, line: float = 0, shadow: float = 0) -> None:
+    """A figure cut out of white paper: it stands out from any ground. Its outer line grows by `line`; round that is the paper."""
+    if shadow:
+        ink.raw(f'<g transform="translate({number(shadow * 0.8)} {number(shadow)})" opacity="0.5">')
+        figure(_Edge(ink, line + paper, SHADE))
+        ink.raw("</g>")
+    figure(_Edge(ink, line + paper, "#ffffff"))
+    if line:
+        figure(_Edge(ink, line, LINE))
+    figure(ink)

@@ -25,9 +25,11 @@ STAR = Tone("#ffd43b", "#f2a71b")
 FLASH = Tone("#fff6c9", "#ffe98f")
 SWEAT = Tone("#8fdcf2", "#4fb3d4")
 SHADOW = "#c9c3b8"
+SHADE = "#7a3d0a"       # below paper figures
 
 # The place: rock and turf of the ledge and of the cliff.
 TURF = Tone("#7cc8a6", "#55a98f")
+PLATE = "#0000ff"      # of the pusher, as the window paints it
 ROCK = Tone("#5fa7a8", "#3f8590")
 ROCK_DEEP = "#2f6c7b"
 ROCK_LIGHT = "#93cbc5"

@@ -14,7 +14,7 @@ class Hand:
     at: Point
     bend: float = 0
     angle: float | None = None      # None: the fingers go on in the arm's own direction
-    kind: str = "open"              # "open", "fist"
+    kind: str = "open"              # "open", "fist", "press": flat against a wall on his right, at angle 0
     layer: str = "front"            # "back": behind the body, "front": before it, "face": before the head
 
 

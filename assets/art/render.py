@@ -1,6 +1,7 @@
-"""Draws every picture of the game: `python3 render.py FOLDER`, FOLDER being the one that holds game/ and forms/.
+"""Draws every picture of the game: `python3 render.py FOLDER`, FOLDER being the one that holds game/, forms/ and icons/.
 
-Each picture is composed as SVG, rendered at 100 % and 200 %, and written in the format that its place asks for.
+Each picture is composed as SVG, rendered at 100 % and at what larger sizes are kept of it ("NAME@2x", "NAME@4x"), and
+written in the format that its place asks for.
 """
 
 from __future__ import annotations
@@ -11,91 +12,124 @@ import tempfile
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple
 
-from dialogs import STARS, WASHES, advert, application_icon, dialog_icon, head_icon, star_picture, wash
+from dialogs import STARS, WASHES, advert, star_picture, wash
 from diploma import curtain, diploma
-from ink import Ink
+from icons import DIALOG_SIZES, SIZES, application_icon, dialog_icon
+from ink import Ink, sticker
 from poses import POSES
 from rig import draw
 from scenes import STATIONS, background, cliff, ledge, turf_strip
 from title import title
 
 LEDGE_TOP = {"Zarpi5": 164.0}     # the pose that stands 120 twips lower, and where the ledge is in its picture
+OVERSCAN = 16                     # rendered beyond each edge, and cut off
+COARSER = {1: 0, 2: 8, 4: 20}     # how much less quality a JPEG needs at each size: its faults grow small with its pixels
+ALL, TWICE, ONCE = (1, 2, 4), (1, 2), (1,)
 
 
 class Picture(NamedTuple):
     path: str                     # without the ending
     draw: Callable[[], Ink]
     ending: str                   # of the picture at 100 %
-    double: str = ""              # of the one at 200 %; empty: none is kept
+    zooms: tuple[int, ...] = ALL
     quality: int = 88
 
 
 def hero(name: str, ground: str = "#ffffff") -> Ink:
     pose = POSES[name]
-    small = name == "small"
-    ink = Ink(*pose.size, ground, weight=1.35 if small else 2.3, depth=1.3 if small else 3.0)
+    ink = Ink(*pose.size, ground)
     if name in LEDGE_TOP:
         turf_strip(ink, LEDGE_TOP[name])
     draw(pose, ink)
     return ink
 
 
+def small_hero() -> Ink:
+    pose = POSES["small"]
+    ink = Ink(*pose.size, weight=1.25, depth=1.2)
+    sticker(ink, lambda on: draw(pose, on), 1.5, 0.1, 0.9)
+    return ink
+
+
 def pictures() -> Iterator[Picture]:
     for name in POSES:
         if name.startswith("Zarpi"):
-            yield Picture(f"game/{name}", lambda n=name: hero(n), ".bmp", ".png")
-    yield Picture("forms/falling", lambda: hero("falling"), ".png", ".png")
-    yield Picture("forms/ground", lambda: hero("Zarpi8"), ".png", ".png")
-    yield Picture("forms/standing", lambda: hero("Zarpi1"), ".png", ".png")
-    yield Picture("forms/small", lambda: hero("small", ""), ".png", ".png")
+            yield Picture(f"game/{name}", lambda n=name: hero(n), ".bmp")
+    yield Picture("forms/falling", lambda: hero("falling"), ".png")
+    yield Picture("forms/ground", lambda: hero("Zarpi8"), ".png")
+    yield Picture("forms/standing", lambda: hero("Zarpi1"), ".png")
+    yield Picture("forms/small", small_hero, ".png")
     for number in STATIONS:
-        yield Picture(f"forms/fondo{number}", lambda n=number: background(n), ".jpg", ".jpg")
-    yield Picture("forms/ledge", ledge, ".jpg", ".jpg", 93)
-    yield Picture("forms/cliff", cliff, ".jpg", ".jpg", 93)
-    yield Picture("forms/title", title, ".jpg", ".jpg", 90)
+        yield Picture(f"forms/fondo{number}", lambda n=number: background(n), ".jpg")
+    yield Picture("forms/ledge", ledge, ".jpg", quality=93)
+    yield Picture("forms/cliff", cliff, ".jpg", quality=93)
+    yield Picture("forms/title", title, ".jpg", quality=90)
     for players in (1, 2):
-        yield Picture(f"forms/diploma{players}", lambda n=players: diploma(n), ".jpg", ".jpg", 92)
-    yield Picture("forms/curtain", curtain, ".jpg", ".jpg")
+        yield Picture(f"forms/diploma{players}", lambda n=players: diploma(n), ".jpg", quality=92)
+    yield Picture("forms/curtain", curtain, ".jpg")
     for design in STARS:
-        yield Picture(f"forms/star{design}", lambda n=design: star_picture(n), ".png", ".png")
-    yield Picture("forms/publi", advert, ".jpg", ".jpg", 93)
+        yield Picture(f"forms/star{design}", lambda n=design: star_picture(n), ".png")
+    yield Picture("forms/publi", advert, ".jpg", quality=93)
     for name in WASHES:
-        yield Picture(f"forms/{name}", lambda n=name: wash(n), ".jpg")
-    yield Picture("forms/icon", lambda: head_icon(32), ".png", ".png")
-    yield Picture("forms/icondialogo", dialog_icon, ".png", ".png")
-    yield Picture("forms/icon256", application_icon, ".png")
+        yield Picture(f"forms/{name}", lambda n=name: wash(n), ".jpg", TWICE)
+    for suffix, size in (("", 32), ("@2x", 64)):
+        yield Picture(f"forms/icon{suffix}", lambda n=size: application_icon(n), ".png", ONCE)
+        yield Picture(f"forms/icondialogo{suffix}", lambda n=size: dialog_icon(n), ".png", ONCE)
+    for size in SIZES:
+        yield Picture(f"icons/hicolor/{size}x{size}/apps/zarpi", lambda n=size: application_icon(n), ".png", ONCE)
+
+
+# Icons of several sizes in one file: name, drawing, sizes.
+COLLECTIONS = (("icons/zarpi.ico", application_icon, SIZES), ("icons/dialogo.ico", dialog_icon, DIALOG_SIZES))
+
+
+def rendered(ink: Ink, zoom: int, work: Path) -> Path:
+    source, plain = work / "picture.svg", work / "picture.png"
+    source.write_text(ink.svg(OVERSCAN), encoding="utf-8")
+    subprocess.run(["rsvg-convert", "-z", str(zoom), "-o", str(plain), str(source)], check=True)
+    subprocess.run(["convert", str(plain), "-shave", f"{OVERSCAN * zoom}x{OVERSCAN * zoom}", "+repage", str(plain)], check=True)
+    return plain
 
 
 def write(picture: Picture, top: Path, work: Path) -> None:
-    source = work / "picture.svg"
-    source.write_text(picture.draw().svg(), encoding="utf-8")
-    for zoom, suffix, ending in ((1, "", picture.ending), (2, "@2x", picture.double)):
-        if not ending:
-            continue
-        plain = work / "picture.png"
-        subprocess.run(["rsvg-convert", "-z", str(zoom), "-o", str(plain), str(source)], check=True)
+    ink = picture.draw()
+    for zoom in picture.zooms:
+        suffix = "" if zoom == 1 else f"@{zoom}x"
+        ending = ".png" if zoom > 1 and picture.ending == ".bmp" else picture.ending
         target = top / (picture.path + suffix + ending)
         target.parent.mkdir(parents=True, exist_ok=True)
-        convert(plain, target, picture.quality - (8 if zoom == 2 else 0))
+        convert(rendered(ink, zoom, work), target, picture.quality - COARSER[zoom])
+        if zoom == 4 and ending == ".png":
+            subprocess.run(["pngquant", "--speed", "1", "--strip", "--force", "--output", str(target), "256", str(target)], check=True)
 
 
 def convert(plain: Path, target: Path, quality: int) -> None:
     """Leaves out dates and names of programs, so that the same drawing gives the same bytes."""
     command = ["convert", str(plain), "-strip"]
+    opaque = ["-background", "white", "-alpha", "remove", "-alpha", "off"]
     kinds = {
-        ".bmp": ["-background", "white", "-alpha", "remove", "-alpha", "off", "-type", "TrueColor", f"BMP3:{target}"],
-        ".jpg": ["-background", "white", "-alpha", "remove", "-alpha", "off", "-sampling-factor", "4:4:4" if quality > 84 else "4:2:0",
-                 "-quality", str(quality), f"JPEG:{target}"],
-        ".png": ["-depth", "8", "-define", "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG:{target}"],
+        ".bmp": [*opaque, "-type", "TrueColor", f"BMP3:{target}"],
+        ".jpg": [*opaque, "-sampling-factor", "4:4:4" if quality > 84 else "4:2:0", "-quality", str(quality), f"JPEG:{target}"],
+        ".png": ["-depth", "8", "-define", "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG32:{target}"],
     }
     subprocess.run(command + kinds[target.suffix], check=True)
 
 
+def write_icons(target: Path, draw_size: Callable[[int], Ink], sizes: tuple[int, ...], work: Path) -> None:
+    plain = []
+    for size in sizes:
+        plain.append(rendered(draw_size(size), 1, work).rename(work / f"icon{size}.png"))
+    subprocess.run(["convert", *map(str, plain), "-strip", str(target)], check=True)
+
+
 def main() -> None:
     top = Path(sys.argv[1])
-    with tempfile.TemporaryDirectory() as work:
+    with tempfile.TemporaryDirectory() as folder:
+        work = Path(folder)
         for picture in pictures():
-            write(picture, top, Path(work))
+            write(picture, top, work)
+        for name, draw_size, sizes in COLLECTIONS:
+            write_icons(top / name, draw_size, sizes, work)
 
 
 if __name__ == "__main__":

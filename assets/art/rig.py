@@ -29,6 +29,7 @@ NAPE = [[(0, -22), (0, -13)], [(-7, -20.5), (-5.5, -13.5)], [(7, -20.5), (5.5, -
 FOOT = [(-8, 0), (-9.5, -5), (-5, -10), (4, -10.5), (12, -7.5), (14.5, -2.5), (13, 0), (3, 0.6)]
 SOLE = [(-8.5, -4), (-8, -13), (0, -16.5), (8, -13), (8.5, -4), (6, 2), (0, 4), (-6, 2)]
 PAW = [(-6, 5), (-7.6, -1), (-7, -6.5), (-4.6, -9.2), (-2.2, -7.6), (0, -10.6), (2.4, -7.8), (4.8, -9), (7.2, -6), (7.6, -1), (6, 5), (0, 7)]
+PRESS = [(-5.4, -8.6), (0, -9.4), (5, -6.5), (7.4, 0), (5, 6.5), (0, 9.4), (-5.4, 8.6), (-6.6, 5), (-6.6, 0), (-6.6, -5)]
 FIST = [(-6, 5.5), (-7.8, 0), (-6, -6), (0, -7.8), (6, -6), (7.8, 0), (6, 5.5), (0, 7)]
 
 
@@ -40,7 +41,7 @@ def draw(pose: Pose, ink: Ink) -> None:
     for hand, side in _arms(pose, "back"):
         _arm(pose, ink, body, hand, side)
     for foot, side in zip(pose.feet, (-1, 1)):
-        _leg(pose, ink, foot, side)
+        _leg(pose, ink, body, foot, side)
     _torso(pose, ink, body)
     if pose.back:
         _tail(pose, ink)
@@ -114,16 +115,19 @@ def _fist(ink: Ink, frame: Affine) -> None:
         ink.line([frame((x, -7)), frame((x, -1.5))], ink.weight * 0.7)
 
 
-HANDS = {"open": _open_paw, "fist": _fist}
+def _press(ink: Ink, frame: Affine) -> None:
+    ink.shape(frame.knots(PRESS), CREAM)
+    for y in (-4.4, 0, 4.4):
+        ink.line([frame((-5.8, y)), frame((-2.2, y * 0.9))], ink.weight * 0.7)
 
 
-def _leg(pose: Pose, ink: Ink, foot: Foot, side: int) -> None:
-    s = pose.scale
-    frame = Affine().move(*foot.at).turn(foot.angle).scale(s * foot.toes, s)
-    ankle = frame((-1, -7))
-    dx = (pose.neck[0] - pose.hips[0]) / math.dist(pose.neck, pose.hips)
-    hip = (pose.hips[0] + side * 9 * s - 4 * dx * s, pose.hips[1])
-    _limb(ink, bow(hip, ankle, foot.bend * s), LEG, s)
+HANDS = {"open": _open_paw, "fist": _fist, "press": _press}
+
+
+def _leg(pose: Pose, ink: Ink, body: Affine, foot: Foot, side: int) -> None:
+    """It begins so deep in the torso that its edges come out from under the torso's own outline."""
+    frame = Affine().move(*foot.at).turn(foot.angle).scale(pose.scale * foot.toes, pose.scale)
+    _limb(ink, bow(body((side * 8, 12)), frame((-1, -7)), foot.bend * pose.scale), LEG, pose.scale)
     (_sole if foot.sole else _foot)(ink, frame)
 
 

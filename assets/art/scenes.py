@@ -7,10 +7,10 @@ than a pale middle tone and nothing small stands where the boxes are.
 from __future__ import annotations
 
 import random
-from typing import Callable
+from typing import Callable, NamedTuple
 
 from brush import blotches, cloud, fill, hill, pointed_tree, radial, round_tree, smooth, soft, vertical, way
-from geometry import Knot, closed, ellipse, number, ribbon
+from geometry import Affine, Knot, closed, ellipse, number, opened, ribbon
 from ink import Ink
 from palette import LINE, ROCK, ROCK_DEEP, ROCK_LIGHT, TURF
 
@@ -35,7 +35,7 @@ def valley(ink: Ink) -> None:
     round_tree(ink, 38, 150, 34, "#a9d59c", "#c3b58f")
     round_tree(ink, 536, 150, 30, "#a9d59c", "#c3b58f")
     hill(ink, [(0, 220), (160, 176), (330, 206), (570, 168)], "#bfe2a4")
-    way(ink, [(20, 440), (120, 346), (150, 270), (290, 216), (380, 168), (462, 118)], 96, 4, "#f3eccb")
+    way(ink, [(104, 440), (118, 346), (150, 270), (290, 216), (380, 168), (462, 118)], 96, 4, "#f3eccb")
     hill(ink, [(0, 352), (200, 342), (420, 354), (570, 336)], "#aed88f", 2)
 
 
@@ -46,63 +46,110 @@ def fields(ink: Ink) -> None:
     _mill(ink, 62, 120, 1.15)
     for i, (y, colour) in enumerate(((158, "#fbd98c"), (206, "#f9d07a"), (262, "#fbd684"), (322, "#f6c667"))):
         hill(ink, [(0, y + 8 * (i % 2)), (180, y - 14), (360, y + 10), (570, y - 12)], colour, 1.6)
-    way(ink, [(330, 450), (258, 356), (300, 278), (272, 216), (330, 168), (378, 116)], 92, 4, "#fff3cf")
+    way(ink, [(262, 450), (258, 356), (300, 278), (272, 216), (330, 168), (378, 116)], 92, 4, "#fff3cf")
 
 
 def _mill(ink: Ink, x: float, y: float, s: float) -> None:
-    soft(ink, [(x - 13 * s, y, 1), (x - 9 * s, y - 34 * s, 1), (x + 9 * s, y - 34 * s, 1), (x + 13 * s, y, 1)], "#f6d79c", 0.7)
-    soft(ink, [(x - 11 * s, y - 33 * s, 1), (x, y - 50 * s, 1), (x + 11 * s, y - 33 * s, 1)], "#e9ae5c", 0.7)
-    for dx, dy in ((26, 16), (-26, -16), (16, -26), (-16, 26)):
-        ink.raw(f'<path d="M{x} {y - 36 * s}l{dx * s} {dy * s}" stroke="#e8b266" stroke-width="{number(4.5 * s)}" opacity="0.8"/>')
+    soft(ink, [(x - 13 * s, y + 4, 1), (x - 9 * s, y - 34 * s, 1), (x + 9 * s, y - 34 * s, 1), (x + 13 * s, y + 4, 1)], "#f6d79c", 0.5)
+    soft(ink, [(x + 3 * s, y + 4, 1), (x + 2 * s, y - 34 * s, 1), (x + 9 * s, y - 34 * s, 1), (x + 13 * s, y + 4, 1)], "#eec483", 0.5)
+    soft(ink, [(x - 11 * s, y - 33 * s, 1), (x, y - 50 * s, 1), (x + 11 * s, y - 33 * s, 1)], "#e3a350", 0.5)
+    soft(ink, [(x - 4 * s, y + 4, 1), (x - 4 * s, y - 7 * s), (x, y - 11 * s), (x + 4 * s, y - 7 * s), (x + 4 * s, y + 4, 1)], "#dca055", 0.4)
+    for turn in (32, 122, 212, 302):
+        sail = Affine().move(x, y - 38 * s).turn(turn).scale(s)
+        soft(ink, sail.knots([(8, 0, 1), (31, 0, 1), (31, 9, 1), (8, 7, 1)]), "#f3cf93", 0.3)
+        for start, end in (((0, 0), (32, 0)), ((8, 7), (31, 9)), ((8, 0), (8, 7)), ((16, 0), (16, 7.7)), ((23.5, 0), (23.5, 8.3)), ((31, 0), (31, 9))):
+            ink.line([sail(start), sail(end)], 1.5 * s if start == (0, 0) else 0.9 * s, "#d99f54")
+    soft(ink, ellipse(x, y - 38 * s, 2.6 * s, 2.6 * s), "#c98c42", 0.3)
 
 
 def wood(ink: Ink) -> None:
+    """Three rows of firs, each on the slope that it grows from; they open where the way goes in."""
     fill(ink, vertical(ink, (0, "#d4ebcb"), (0.5, "#ebf6db"), (1, "#bfdfa5")))
     draw = random.Random(4)
-    for depth, (y, size, leaf) in enumerate(((128, 62, "#c9e5c0"), (150, 84, "#b9dcaf"), (186, 108, "#abd4a0"))):
-        for i in range(15 - 3 * depth):
-            x = (i + 0.5) * 580 / (15 - 3 * depth) + draw.uniform(-10, 10)
+    for depth, (y, size, leaf, slope) in enumerate(((112, 58, "#c9e5c0", "#d9eed0"), (140, 82, "#b9dcaf", "#cfe8c2"), (180, 108, "#abd4a0", "#c5e3b2"))):
+        line = [(0, y + 6), (140, y - 2), (300, y - 12), (440, y - 3), (570, y + 4)]
+        hill(ink, [(x, at - 7) for x, at in line], slope, 1.4)
+        count = 15 - 3 * depth
+        for i in range(count):
+            x = (i + 0.5) * 580 / count + draw.uniform(-10, 10)
+            tall = size * draw.uniform(0.85, 1.1)
             if depth and 200 < x < 400:
-                continue                # the wood opens where the way goes in
-            pointed_tree(ink, x, y + draw.uniform(-6, 6), size * draw.uniform(0.85, 1.1), leaf, "#c9bd99")
-    hill(ink, [(0, 196), (180, 180), (330, 170), (570, 190)], "#bfe0a8")
-    way(ink, [(470, 450), (372, 352), (364, 272), (300, 222), (312, 182), (302, 152)], 96, 4, "#eeeccd")
+                continue
+            pointed_tree(ink, x, _height(line, x) + draw.uniform(-2, 4), tall, leaf, "#c0b48e")
+    hill(ink, [(0, 206), (180, 192), (330, 182), (570, 202)], "#bfe0a8")
+    way(ink, [(380, 450), (374, 352), (364, 272), (306, 226), (314, 190), (304, 164)], 96, 4, "#eeeccd")
     hill(ink, [(0, 346), (180, 356), (400, 340), (570, 350)], "#a7d18d", 2)
+
+
+def _height(line: list[tuple[float, float]], x: float) -> float:
+    """The height of a slope at x."""
+    for (ax, ay), (bx, by) in zip(line, line[1:]):
+        if x <= bx:
+            return ay + (by - ay) * (x - ax) / (bx - ax)
+    return line[-1][1]
 
 
 def river(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#ffdca0"), (0.42, "#fff1cc"), (1, "#ffd9a0")))
-    soft(ink, ellipse(438, 84, 40, 40), "#fffbe6", 4)
-    hill(ink, [(0, 100), (130, 76), (250, 112), (350, 114), (460, 90), (570, 112)], "#fbd9a2", 2)
-    hill(ink, [(0, 138), (190, 124), (380, 136), (570, 122)], "#f9cf8e")
-    way(ink, [(152, 232), (178, 196), (214, 172), (262, 140), (330, 114)], 30, 4, "#fff1cd")
+    soft(ink, ellipse(96, 66, 34, 34), "#fffbe6", 4)
+    hill(ink, [(0, 112), (120, 84), (250, 110), (350, 96), (440, 72), (570, 98)], "#fbd9a2", 2)
+    hill(ink, [(0, 142), (190, 126), (330, 116), (456, 104), (570, 118)], "#f9cf8e")
+    round_tree(ink, 34, 148, 40, "#f4bd73", "#d9a873")
+    round_tree(ink, 78, 144, 27, "#f6c683", "#d9a873")
+    hill(ink, [(0, 236), (150, 190), (330, 160), (440, 128), (570, 132)], "#f8c983", 1.6)
     _water(ink)
-    hill(ink, [(0, 322), (150, 330), (380, 300), (570, 312)], "#f7c67e", 1.6)
+    way(ink, [(170, 450), (206, 352), (214, 296), (232, 246), (300, 196), (340, 160), (384, 131)], 84, 13, "#fff1cd")
+    way(ink, [(538, 126), (556, 122), (600, 108)], 12, 8, "#fff1cd")
     _bridge(ink)
-    soft(ink, sum(ribbon(smooth([(70, 440), (92, 386), (120, 350), (138, 316)]), [96, 74, 46]), []), "#fff1cd", 1)
-    round_tree(ink, 32, 136, 38, "#f4bd73", "#dcae7c")
-    round_tree(ink, 76, 134, 26, "#f6c683", "#dcae7c")
-    hill(ink, [(0, 372), (250, 362), (420, 344), (570, 338)], "#f4ba6c", 2)
+    hill(ink, [(-20, 338), (120, 352), (230, 372), (570, 400)], "#f4ba6c", 2)
+
+
+# The two banks of the river, from far to near and back.
+LEFT_BANK: list[Knot] = [(470, 101), (462, 108), (434, 118), (412, 132), (404, 156), (420, 188), (442, 222), (436, 258), (396, 296), (336, 330), (292, 372), (276, 410)]
+RIGHT_BANK: list[Knot] = [(660, 410), (640, 330), (628, 270), (600, 222), (560, 186), (536, 158), (530, 136), (508, 118), (486, 108), (480, 101)]
+WATER = [(x + 2 + 0.012 * y, y + 2 + 0.02 * y) for x, y in LEFT_BANK] + [(x - 1, y + 2) for x, y in RIGHT_BANK]
+RIPPLES = ((452, 160, 14), (500, 172, 16), (470, 186, 18), (520, 204, 20), (476, 220, 22), (556, 232, 24), (502, 250, 30), (462, 276, 26), (560, 282, 34),
+           (436, 306, 34), (520, 320, 42), (380, 340, 30), (474, 350, 38))
 
 
 def _water(ink: Ink) -> None:
-    band: list[Knot] = [(-30, 236), (120, 226), (300, 236), (440, 222), (600, 230), (620, 300, 1), (440, 302), (300, 312), (120, 308), (-30, 316, 1)]
-    soft(ink, band, "#fff8e4", 2)
-    for x, y, half in ((40, 262, 34), (262, 258, 40), (390, 282, 46), (500, 252, 36), (330, 296, 30), (36, 292, 26), (540, 284, 24), (226, 284, 20)):
-        soft(ink, ellipse(x, y, half, 2.4), "#f8d79c", 1)
+    """Its left bank is seen as a low wall of earth, the right one as an edge of grass."""
+    soft(ink, [(x - 4, y) for x, y in LEFT_BANK] + [(x + 3, y) for x, y in RIGHT_BANK], "#e2a95e", 1.2)
+    soft(ink, [(x + 1, y + 2) for x, y in LEFT_BANK] + RIGHT_BANK, "#cf9450", 1)
+    soft(ink, WATER, "#f1f3e0", 1)
+    for i, (x, y, half) in enumerate(RIPPLES):
+        soft(ink, ellipse(x, y, half, 0.7 + half * 0.04), ("#d3e0d2", "#fffdf4")[i % 2], 0.6, 0.9)
+    for x, y, size in ((398, 190, 1.0), (404, 184, 0.8), (424, 240, 1.2), (392, 288, 1.3), (384, 296, 1.0), (566, 182, 1.0), (574, 190, 1.2), (326, 328, 1.5), (336, 320, 1.2)):
+        for lean in (-5, 0, 4):
+            ink.raw(f'<path d="M{x} {y}q{number(lean * 0.3 * size)} {number(-9 * size)} {number(lean * size)} {number(-16 * size)}" '
+                    f'fill="none" stroke="#d9a257" stroke-width="{number(1.8 * size)}" stroke-linecap="round"/>')
 
 
 def _bridge(ink: Ink) -> None:
-    """A deck that grows narrow towards the far bank, between two parapets, with its shadow on the water."""
-    near, far = (138.0, 318.0), (153.0, 224.0)
-    line = smooth([near, (144.0, 272.0), far])
-    soft(ink, [(x - 8, y) for x, y in sum(ribbon(line, [54, 42, 30]), [])], "#eecb8e", 3, 0.7)
-    for widths, colour in (([62, 47, 35], "#e3b06c"), ([46, 35, 26], "#fff1cd")):
-        soft(ink, sum(ribbon(line, widths), []), colour, 0.7)
-    for i, (x, y) in enumerate(line[::4]):
-        half = 27 - 11.5 * i / 4
-        for side in (-1, 1):
-            soft(ink, ellipse(x + side * half, y - 2, 5 - 0.5 * i, 6 - 0.5 * i), "#dfa961", 0.5)
+    """Of planks, on two piers: a deck that rises to its middle, posts with a rail; below, its shadow and its image in the water."""
+    deck = smooth([(376, 130), (412, 112), (458, 104), (506, 110), (546, 127)], 6)
+    image = [(x, 2 * 152 - y) for x, y in deck]
+    water = ink.define(f'<clipPath id="{{id}}"><path d="{closed(WATER)}"/></clipPath>')
+    ink.raw(f'<g clip-path="url(#{water})">')
+    soft(ink, sum(ribbon(image[4:-4], [10, 11, 10]), []), "#e2c79a", 1.4, 0.75)
+    for x, _ in image[::3]:
+        soft(ink, [(x - 1.5, 184, 1), (x - 1.5, 210, 1), (x + 1.5, 210, 1), (x + 1.5, 184, 1)], "#e2c79a", 1, 0.6)
+    soft(ink, ellipse(468, 150, 56, 6), "#c9ac7e", 2.4, 0.6)
+    for x in (430, 498):
+        soft(ink, [(x - 5, 154, 1), (x - 4, 190, 1), (x + 4, 190, 1), (x + 5, 154, 1)], "#d8ba8a", 1.2, 0.7)
+    ink.raw("</g>")
+    for x in (430, 498):
+        soft(ink, [(x - 5, 110, 1), (x - 6, 152, 1), (x + 6, 152, 1), (x + 5, 110, 1)], "#c08a4a", 0.5)
+        soft(ink, [(x + 1, 110, 1), (x + 1, 152, 1), (x + 6, 152, 1), (x + 5, 110, 1)], "#a87438", 0.5, 0.7)
+        soft(ink, ellipse(x, 153, 11, 2), "#fffdf4", 0.6)
+    soft(ink, sum(ribbon([(x, y + 4) for x, y in deck], [9, 11, 9]), []), "#a87438", 0.4)
+    soft(ink, sum(ribbon(deck, [8, 10, 8]), []), "#eec388", 0.4)
+    for x, y in deck[1:-1]:
+        ink.raw(f'<path d="M{number(x)} {number(y - 4.5)}l-1 9" stroke="#c68e49" stroke-width="1"/>')
+    for lift, width in ((-20, 2.8), (-11, 2)):
+        ink.raw(f'<path d="{opened([(x, y + lift) for x, y in deck])}" fill="none" stroke="#b97f40" stroke-width="{width}" stroke-linecap="round"/>')
+    for x, y in deck[::3]:
+        soft(ink, [(x - 2.4, y + 5, 1), (x - 2.4, y - 23, 1), (x + 2.4, y - 23, 1), (x + 2.4, y + 5, 1)], "#ae7636", 0.35)
 
 
 def sierra(ink: Ink) -> None:
@@ -113,7 +160,7 @@ def sierra(ink: Ink) -> None:
         soft(ink, [(x - 20, y + 20), (x, y, 1), (x + 22, y + 22), (x + 8, y + 15), (x, y + 24), (x - 8, y + 14)], "#fffaf0", 1)
     hill(ink, [(0, 160), (120, 128), (240, 158), (380, 122), (570, 150)], "#f9d08a")
     hill(ink, [(0, 232), (190, 190), (340, 222), (570, 180)], "#f7c878", 1.5)
-    way(ink, [(60, 450), (190, 356), (150, 292), (236, 244), (216, 198), (300, 162), (348, 124)], 88, 4, "#fff2cc")
+    way(ink, [(176, 450), (186, 356), (150, 292), (236, 244), (216, 198), (300, 162), (348, 124)], 88, 4, "#fff2cc")
     hill(ink, [(0, 340), (180, 356), (380, 344), (570, 320)], "#f4bd66", 2)
 
 
@@ -129,15 +176,39 @@ def summit(ink: Ink) -> None:
     hill(ink, [(0, 330), (140, 344), (360, 356), (570, 340)], "#a5d28b", 2)
 
 
-def castle(ink: Ink, x: float, y: float) -> None:
-    for dx, wide, tall in ((-24, 15, 34), (0, 34, 24), (24, 15, 40)):
-        soft(ink, [(x + dx - wide / 2, y + 4, 1), (x + dx - wide / 2, y - tall, 1), (x + dx + wide / 2, y - tall, 1), (x + dx + wide / 2, y + 4, 1)], "#b9d6b4", 0.6)
-    soft(ink, [(x - 7, y + 4, 1), (x - 7, y - 8), (x, y - 14), (x + 7, y - 8), (x + 7, y + 4, 1)], "#dcebd0", 0.6)
-    for dx in (-12, 0, 12):
-        soft(ink, [(x + dx - 3, y - 23, 1), (x + dx - 3, y - 29, 1), (x + dx + 3, y - 29, 1), (x + dx + 3, y - 23, 1)], "#b9d6b4", 0.4)
-    soft(ink, [(x + 24, y - 56, 1), (x + 24, y - 68, 1), (x + 38, y - 63, 1), (x + 24, y - 58, 1)], "#f0d9a0", 0.4)
-    for dx, tall in ((-24, 34), (24, 40)):
-        soft(ink, [(x + dx - 10, y - tall, 1), (x + dx, y - tall - 16, 1), (x + dx + 10, y - tall, 1)], "#9cc7a5", 0.6)
+class Masonry(NamedTuple):
+    """The colours of a castle: walls, their shaded side, roofs, the gate, the flag."""
+
+    wall: str
+    shade: str
+    roof: str
+    gate: str
+    flag: str
+
+
+PALE = Masonry("#bcd8b6", "#a9caa6", "#9cc7a5", "#e4efd6", "#f0d9a0")
+
+
+def castle(ink: Ink, x: float, y: float, stone: Masonry = PALE, size: float = 1) -> None:
+    """It stands on the line y; its gate, at x, is 14 wide."""
+    frame = Affine().move(x, y).scale(size)
+
+    def block(left: float, right: float, low: float, high: float, colour: str) -> None:
+        soft(ink, frame.knots([(left, low, 1), (left, high, 1), (right, high, 1), (right, low, 1)]), colour, 0.35)
+
+    for left, right, tall in ((-32, -17, 34), (17, 32, 42)):
+        block(left, right, 4, -tall, stone.wall)
+        block(left + 9, right, 4, -tall, stone.shade)
+        middle = (left + right) / 2
+        soft(ink, frame.knots([(left - 3, -tall, 1), (middle, -tall - 19, 1), (right + 3, -tall, 1)]), stone.roof, 0.35)
+        block(middle - 1.6, middle + 1.6, -tall + 14, -tall + 7, stone.gate)
+    block(-17, 17, 4, -22, stone.wall)
+    for dx in (-13.5, -4.5, 4.5, 13.5):
+        block(dx - 2.6, dx + 2.6, -21, -27, stone.wall)
+    block(-17, 17, -18, -19.6, stone.shade)
+    soft(ink, frame.knots([(-7, 4, 1), (-7, -6), (0, -13), (7, -6), (7, 4, 1)]), stone.gate, 0.35)
+    block(24, 25.2, -60, -72, stone.roof)
+    soft(ink, frame.knots([(25, -72, 1), (39, -68, 1), (25, -63, 1)]), stone.flag, 0.35)
 
 
 STATIONS: dict[int, tuple[Scene, str, str]] = {     # picture: (what it shows, its light, its pigment)
@@ -157,23 +228,51 @@ def background(station: int) -> Ink:
 
 # --- ledge and cliff ------------------------------------------------------------------------------------------------
 
-LEDGE_WIDTH, LEDGE_HEIGHT, TURF_HEIGHT = 601, 31, 9
-CLIFF_WIDTH, CLIFF_HEIGHT = 31, 353
+# Ledge and cliff are two pictures of one rock: where each lies on it, as left, top, width, height.
+LEDGE, CLIFF = (0, 0, 601, 31), (570, 30, 31, 353)
+END, FOOT = 599.5, 384
+TURF_DEPTH = 9
 
 
 def ledge() -> Ink:
-    """Its first rows are the same all along: a pose that stands lower than the ledge is drawn on the same turf."""
-    ink = Ink(LEDGE_WIDTH, LEDGE_HEIGHT, "#ffffff", weight=2)
-    end = LEDGE_WIDTH
-    outline: list[Knot] = [(-6, 1, 1), (end - 8, 1, 1), (end - 2, 4), (end - 1.2, 12), (end - 2, 24), (end - 1.5, 40, 1), (-6, 40, 1)]
-    clip = ink.define(f'<clipPath id="{{id}}"><path d="{closed(outline)}"/></clipPath>')
+    return _rock(*LEDGE)
+
+
+def cliff() -> Ink:
+    return _rock(*CLIFF)
+
+
+def _rock(left: float, top: float, width: float, height: float) -> Ink:
+    """A part of the rock. The ledge's first rows are the same all along: a pose that stands lower is drawn on the same turf."""
+    ink = Ink(width, height, "#ffffff", weight=2)
+    ink.raw(f'<g transform="translate({-left} {-top})">')
+    brink = _brink()
+    clip = ink.define(f'<clipPath id="{{id}}"><path d="{closed([(-9, 1, 1), *brink, (-9, FOOT + 9, 1)])}"/></clipPath>')
     ink.raw(f'<g clip-path="url(#{clip})">')
-    fill(ink, vertical(ink, (0, ROCK_LIGHT), (0.45, ROCK.base), (1, ROCK.shade)))
-    stones(ink, 0, TURF_HEIGHT, LEDGE_WIDTH, LEDGE_HEIGHT, 7)
+    ink.raw(f'<rect x="-9" width="620" height="{FOOT + 9}" fill="{ROCK.base}"/>')
+    ink.raw(f'<rect x="-9" width="620" height="31" fill="{vertical(ink, (0, ROCK_LIGHT), (0.45, ROCK.base), (1, ROCK.shade))}"/>')
+    stones(ink, 0, TURF_DEPTH, END, 36, 7)
+    stones(ink, 566, 36, END + 4, FOOT, 21, 13)
+    shade = ink.define(f'<linearGradient id="{{id}}"><stop offset="0" stop-color="{ROCK_DEEP}" stop-opacity="0"/>'
+                       f'<stop offset="1" stop-color="{ROCK_DEEP}" stop-opacity=".5"/></linearGradient>')
+    ink.raw(f'<rect x="586" width="16" height="{FOOT}" fill="url(#{shade})"/>')
     _turf(ink)
     ink.raw("</g>")
-    ink.stroke(f"M-6 1L{end - 8} 1C{end - 3} 1 {end - 1} 5 {end - 1.2} 12C{end - 1.2} 17 {end - 3} 18 {end - 2} 24L{end - 1.5} 40", 2)
+    ink.line([(-9, 1, 1), *brink], 2)
+    ink.line([(-9, 30.2, 1), (570.8, 30.2, 1), (570.8, FOOT + 9, 1)], 1.6, ROCK_DEEP)
+    ink.raw("</g>")
     return ink
+
+
+def _brink() -> list[Knot]:
+    """The rock's outline from the end of the turf down the face of the cliff."""
+    draw = random.Random(12)
+    line: list[Knot] = [(END - 9, 1, 1), (END - 3, 2.5), (END - 0.4, 7), (END - 0.2, 13), (END - 1.6, 20), (END - 0.8, 28)]
+    y = 40.0
+    while y < FOOT + 20:
+        line.append((END - draw.choice((0, 0.6, 2, 3.4)), y) + ((1,) if draw.random() < 0.3 else ()))
+        y += draw.uniform(12, 26)
+    return line
 
 
 def turf_strip(ink: Ink, top: float) -> None:
@@ -184,14 +283,14 @@ def turf_strip(ink: Ink, top: float) -> None:
 
 def _turf(ink: Ink) -> None:
     draw = random.Random(3)
-    knots: list[Knot] = [(-8, -2, 1), (LEDGE_WIDTH + 8, -2, 1), (LEDGE_WIDTH + 8, 9, 1)]
-    x = LEDGE_WIDTH + 2.0
+    knots: list[Knot] = [(-8, -2, 1), (LEDGE[2] + 8, -2, 1), (LEDGE[2] + 8, 9, 1)]
+    x = LEDGE[2] + 2.0
     while x > -8:
         knots += [(x, draw.uniform(13, 16.5), 1), (x - 5, 9.5)]
         x -= draw.uniform(8, 15)
     ink.flat([(k[0], k[1] + 2.4, *k[2:]) for k in knots], ROCK_DEEP, 0.35)
     ink.flat(knots, TURF.base)
-    ink.raw(f'<rect x="-5" y="8.6" width="{LEDGE_WIDTH + 10}" height="1.6" fill="{TURF.shade}" opacity="0.45"/>')
+    ink.raw(f'<rect x="-5" y="8.6" width="{LEDGE[2] + 10}" height="1.6" fill="{TURF.shade}" opacity="0.45"/>')
 
 
 def stones(ink: Ink, left: float, top: float, right: float, bottom: float, seed: int, cell: float = 15) -> None:
@@ -212,23 +311,3 @@ def stones(ink: Ink, left: float, top: float, right: float, bottom: float, seed:
 
 
 FACETS = ((ROCK_LIGHT, 0.5), (ROCK_LIGHT, 0.22), (ROCK.base, 0.2), (ROCK.shade, 0.45), (ROCK.shade, 0.8), (ROCK_DEEP, 0.28))
-
-
-def cliff() -> Ink:
-    ink = Ink(CLIFF_WIDTH, CLIFF_HEIGHT, "#ffffff", weight=2)
-    draw = random.Random(12)
-    right: list[Knot] = [(CLIFF_WIDTH - 1.5, -6, 1)]
-    y = 14.0
-    while y < CLIFF_HEIGHT + 20:
-        right.append((CLIFF_WIDTH - draw.choice((1.5, 2, 3.5, 5)), y) + ((1,) if draw.random() < 0.3 else ()))
-        y += draw.uniform(12, 26)
-    outline = [(-6, -6, 1), *right, (-6, right[-1][1], 1)]
-    clip = ink.define(f'<clipPath id="{{id}}"><path d="{closed(outline)}"/></clipPath>')
-    ink.raw(f'<g clip-path="url(#{clip})">')
-    fill(ink, vertical(ink, (0, ROCK.shade), (0.2, ROCK.base), (1, ROCK.shade)))
-    stones(ink, 0, -4, CLIFF_WIDTH, CLIFF_HEIGHT, 21, 13)
-    ink.raw(f'<rect width="{CLIFF_WIDTH}" height="16" fill="{vertical(ink, (0, ROCK_DEEP + "a0"), (1, ROCK_DEEP + "00"))}"/>')
-    ink.raw(f'<rect x="{CLIFF_WIDTH - 10}" width="10" height="{CLIFF_HEIGHT}" fill="{ROCK_DEEP}" opacity="0.28"/></g>')
-    ink.line(right, 2)
-    return ink
-
