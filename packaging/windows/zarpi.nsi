@@ -94,6 +94,14 @@ Section "Icono en el escritorio" DesktopIcon
     CreateShortcut "$DESKTOP\${NAME}.lnk" "${PROGRAM}"
 SectionEnd
 
+; An icon that the player has thrown away does not come back with a new version.
+Function .onInit
+    IfFileExists "${PROGRAM}" 0 first
+    IfFileExists "$DESKTOP\${NAME}.lnk" first
+    !insertmacro UnselectSection ${DesktopIcon}
+    first:
+FunctionEnd
+
 Section "un.${NAME}" UnGame
     SectionIn RO
     !insertmacro WAIT_FOR_THE_END_OF_THE_GAME
