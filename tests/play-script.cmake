@@ -1,4 +1,4 @@
-# Plays each of SCRIPTS with PLAYER in a game folder of its own under FOLDER, made anew, as an installation leaves it.
+# Plays each of SCRIPTS with PLAYER, a command, in a game folder of its own under FOLDER, made anew, as an installation leaves it.
 # The hero's poses in it are those of PICTURES; without, it has none.
 file(REMOVE_RECURSE ${FOLDER})
 foreach(script ${SCRIPTS})

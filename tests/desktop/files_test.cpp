@@ -6,6 +6,8 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#elif defined(Q_OS_WIN)
+#include <windows.h>
 #endif
 
 #include "ContratoArchivos.h"
@@ -42,6 +44,20 @@ TEST_F(Folder, AFullDiskTakesNothingAway) {
     setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_EQ(files.Read("Ultimo.dat"), " 12 \r\n");
     EXPECT_EQ(files.Read("CeI.rnd"), "0123456789");
+}
+#endif
+
+#ifdef Q_OS_WIN
+TEST_F(Folder, AFileThatAnotherProgramHoldsKeepsItsContent) {
+    ASSERT_TRUE(files.Replace("Último.dat", " 12 \r\n"));
+    HANDLE held = CreateFileW(L"Último.dat", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    EXPECT_FALSE(files.Replace("Último.dat", " 13 \r\n"));
+    EXPECT_FALSE(files.WriteAt("Último.dat", 0, "x"));
+    EXPECT_FALSE(files.Remove("Último.dat"));
+    CloseHandle(held);
+    EXPECT_EQ(files.Read("Último.dat"), " 12 \r\n");
+    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 #endif
 
