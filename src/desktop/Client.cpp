@@ -1,6 +1,6 @@
 #include "desktop/Client.h"
 
-#include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <utility>
 
@@ -22,16 +22,6 @@ void Client::paintEvent(QPaintEvent* event) {
     if (picture_.isNull() || picture_.hasAlpha()) painter.fillRect(event->rect(), color_);
     if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);
     if (OnFirstPaint) std::exchange(OnFirstPaint, nullptr)();
-}
-
-// A press that nobody takes would go on to the window behind.
-void Client::mousePressEvent(QMouseEvent* event) {
-    event->accept();
-}
-
-void Client::mouseReleaseEvent(QMouseEvent* event) {
-    const bool inside = rect().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && inside && OnClick) OnClick();
 }
 
 }  // namespace platform::desktop

@@ -11,16 +11,13 @@ class Client : public QWidget {
 public:
     explicit Client(QWidget* window);
 
-    /// The ground: a picture as large as the client area, or a colour where the picture is null.
+    /// The ground: a picture from the top left corner on, or a colour where the picture is null.
     void SetGround(const QPixmap& picture, const QColor& color);
 
-    std::function<void()> OnClick;
     std::function<void()> OnFirstPaint;  ///< called once, when the window is up
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     QPixmap picture_;

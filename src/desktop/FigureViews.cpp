@@ -24,7 +24,7 @@ void ShapeWidget::SetLook(const ShapeLook& look, int lineWidth, int rounding) {
 }
 
 void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
-    constexpr double kRounding = 0.17;  // of the shorter side
+    constexpr double kRounding = 0.25;  // of the shorter side
     QPainter painter(this);
     painter.setBrush(fill_);
     painter.setPen(border_);
@@ -40,7 +40,11 @@ void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
 }
 
 ShapeView::ShapeView(const Toolkit& toolkit, Shape& element, QWidget& client) : ElementView(toolkit, element, client) {
-    widget_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    if (element.Click) {
+        TakeClicks();
+    } else {
+        widget_.setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
 }
 
 void ShapeView::Apply(const ShapeLook& look) {

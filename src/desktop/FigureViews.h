@@ -24,7 +24,7 @@ private:
     int rounding_ = 0;
 };
 
-/// The view of a shape. The mouse goes through it to what lies behind.
+/// The view of a shape. The mouse goes through one that answers no click, to what lies behind.
 class ShapeView : public ElementView<Shape, ShapeWidget> {
 public:
     ShapeView(const Toolkit& toolkit, Shape& element, QWidget& client);

@@ -16,8 +16,10 @@ FormPrinter::~FormPrinter() = default;
 
 bool FormPrinter::ShowDialog() {
     display_.Refresh();
+    FormWindow* const window = display_.FrontWindow();
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    QPrintDialog dialog(printer.get(), display_.FrontWindow());
+    if (window != nullptr) ProposePage(*window, *printer);
+    QPrintDialog dialog(printer.get(), window);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     if (dialog.exec() != QDialog::Accepted) return false;
     printer_ = std::move(printer);
@@ -29,6 +31,12 @@ void FormPrinter::PrintForm(const Form& form) {
     if (window == nullptr || printer_ == nullptr) return;
     window->Refresh();
     PrintWidget(window->ClientArea(), *printer_);
+}
+
+void ProposePage(const FormWindow& window, QPrinter& printer) {
+    const QSize page = window.ClientArea().size();
+    printer.setPageOrientation(page.width() > page.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setDocName(window.windowTitle());
 }
 
 void PrintWidget(QWidget& widget, QPrinter& printer) {

@@ -9,6 +9,7 @@ class QWidget;
 
 namespace platform::desktop {
 
+class FormWindow;
 class WindowDisplay;
 
 /// Prints windows as they stand, texts and figures as vectors, as large as the paper allows within its margins.
@@ -24,6 +25,10 @@ private:
     WindowDisplay& display_;
     std::unique_ptr<QPrinter> printer_;  // the printer chosen last; null before
 };
+
+/// Sets what the printer dialog begins with: a page as wide or high as the window is, the window's title as the name of
+/// the document and of a file.
+void ProposePage(const FormWindow& window, QPrinter& printer);
 
 /// Draws the client area of a window onto a page.
 void PrintWidget(QWidget& widget, QPrinter& printer);

@@ -8,7 +8,9 @@
 #include <utility>
 
 #include "desktop/Colors.h"
+#include "desktop/LabelView.h"
 #include "desktop/Strings.h"
+#include "desktop/WindowPlace.h"
 
 namespace platform::desktop {
 
@@ -28,28 +30,36 @@ std::vector<Control*> BackToFront(const Form& form) {
 
 }  // namespace
 
-FormWindow::FormWindow(const Toolkit& toolkit, Form& form, QWidget* owner, bool modal)
-    : QWidget(modal ? owner : nullptr, FlagsOf(form, modal)),
+FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before, bool modal)
+    : QWidget(modal ? before.front : nullptr, FlagsOf(form, modal)),
       toolkit_(toolkit),
       form_(form),
       client_(*new Client(this)),
       keys_(*new KeyFilter(toolkit.Screen, form, client_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
-    if (modal) setWindowModality(owner == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
-    client_.OnClick = [this] { toolkit_.Screen.Click(form_); };
+    if (modal) setWindowModality(before.front == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
+    TakeClicks();
     if (!form.Menus().empty()) menu_ = std::make_unique<MenuView>(toolkit.Screen, form, *this);
     RefreshFrame();
     MakeViews();
-    SetPlace();
+    SetPlace(before.first);
     Refresh();
 }
 
 FormWindow::~FormWindow() = default;
 
+void FormWindow::TakeClicks() {
+    if (form_.OnClick) client_.setCursor(Qt::PointingHandCursor);
+    new ClickFilter(client_, toolkit_.DoubleClicks, [this] { toolkit_.Screen.Click(form_); });
+}
+
 void FormWindow::MakeViews() {
     layers_ = BackToFront(form_);
     for (Control* control : layers_) {
-        if (auto view = MakeView(toolkit_, *control, client_)) views_.emplace(control, std::move(view));
+        auto view = MakeView(toolkit_, *control, client_);
+        if (!view) continue;
+        if (auto* const label = dynamic_cast<LabelView*>(view.get())) labels_.push_back(label);
+        views_.emplace(control, std::move(view));
     }
     SetTabOrder();
 }
@@ -74,6 +84,7 @@ void FormWindow::Refresh() {
     if (menu_) menu_->Refresh();
     RefreshLayers();
     for (const auto& [control, view] : views_) view->Refresh();
+    LevelTexts();
     RefreshFocus();
 }
 
@@ -107,22 +118,36 @@ void FormWindow::SetSize() {
 void FormWindow::SetGround() {
     const FormLook& look = form_;
     const bool pictured = !look.Background.empty();
-    client_.SetGround(pictured ? toolkit_.Pictures.Stored(look.Background, client_.size()) : QPixmap(),
+    client_.SetGround(pictured ? toolkit_.Pictures.Covering(look.Background, client_.size()) : QPixmap(),
                       look.BackColor.IsNone() ? palette().color(QPalette::Window) : ToQt(look.BackColor));
 }
 
-/// Where the form says, from the corner of the screen; in the middle of its owner or of the screen if it says nothing.
-void FormWindow::SetPlace() {
-    const QWidget* const owner = parentWidget();
-    const QRect desk = (owner == nullptr ? QGuiApplication::primaryScreen() : owner->screen())->availableGeometry();
-    QPoint corner = desk.topLeft() + QPoint(toolkit_.Scale.Pixels(form_.Left), toolkit_.Scale.Pixels(form_.Top));
-    if (form_.Left < 0) {
-        QRect frame(QPoint(), size());
-        frame.moveCenter(owner == nullptr ? desk.center() : owner->frameGeometry().center());
-        corner = frame.topLeft();
+void FormWindow::SetPlace(const FormWindow* first) {
+    Surroundings around;
+    if (first == nullptr) {
+        around.desk = QGuiApplication::primaryScreen()->availableGeometry();
+    } else {
+        const QRect inner = first->geometry();
+        const QRect outer = first->frameGeometry();
+        around.desk = first->screen()->availableGeometry();
+        around.origin = first->client_.mapToGlobal(QPoint());
+        around.frame = {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+                        outer.bottom() - inner.bottom()};
     }
-    const QPoint last(desk.right() + 1 - width(), desk.bottom() + 1 - height());
-    move(std::max(desk.left(), std::min(corner.x(), last.x())), std::max(desk.top(), std::min(corner.y(), last.y())));
+    setGeometry(PlaceOf(form_, size(), toolkit_.Scale, around));
+}
+
+/// Labels that look alike keep letters of one size: where one of them has to shrink, all do.
+void FormWindow::LevelTexts() {
+    std::map<QString, int> smallest;
+    for (const LabelView* label : labels_) {
+        if (!label->Element().Visible) continue;
+        const auto [size, isFirst] = smallest.try_emplace(label->Family(), label->NeededSize());
+        if (!isFirst) size->second = std::min(size->second, label->NeededSize());
+    }
+    for (LabelView* label : labels_) {
+        if (label->Element().Visible) label->SetFontSize(smallest.at(label->Family()));
+    }
 }
 
 /// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old

@@ -13,11 +13,19 @@
 
 namespace platform::desktop {
 
+class LabelView;
+
 /// The window of an open form: frame, menu bar, client area of a fixed size, a view for each element.
 class FormWindow : public QWidget {
 public:
-    /// A modal form stands over `owner`, the window in front so far, and blocks it. The window is not shown yet.
-    FormWindow(const Toolkit& toolkit, Form& form, QWidget* owner, bool modal);
+    /// The windows that were there before: the first one, by which the others find their place, and the one in front.
+    /// Both are null for the first window of all.
+    struct Before {
+        const FormWindow* first;
+        QWidget* front;
+    };
+    /// A modal form stands over the window in front so far and blocks it. The window is not shown yet.
+    FormWindow(const Toolkit& toolkit, Form& form, const Before& before, bool modal);
     ~FormWindow() override;
 
     /// Shows what has changed in the form since the last time.
@@ -30,13 +38,15 @@ protected:
 
 private:
     void MakeViews();
+    void TakeClicks();
     void SetTabOrder();
     void RefreshFrame();
     void RefreshLayers();
     void RefreshFocus();
+    void LevelTexts();
     void SetSize();
     void SetGround();
-    void SetPlace();
+    void SetPlace(const FormWindow* first);
 
     const Toolkit toolkit_;
     Form& form_;
@@ -44,6 +54,7 @@ private:
     KeyFilter& keys_;
     std::unique_ptr<MenuView> menu_;
     std::map<const Control*, std::unique_ptr<View>> views_;
+    std::vector<LabelView*> labels_;
     std::vector<Control*> layers_;  // from back to front, as the widgets stand
     std::optional<FormLook> shown_;
 };

@@ -14,6 +14,10 @@ bool Takes(const QObject* receiver, const std::optional<Key>& key) {
     return dynamic_cast<const QLineEdit*>(receiver) != nullptr;
 }
 
+bool IsArrow(const QKeyEvent& press) {
+    return press.key() >= Qt::Key_Left && press.key() <= Qt::Key_Down;
+}
+
 }  // namespace
 
 KeyFilter::KeyFilter(Screen& screen, const Form& form, QWidget& client)
@@ -42,10 +46,19 @@ bool KeyFilter::MovesFocus(const QKeyEvent& press) const {
 }
 
 bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
+    if (press.isAutoRepeat()) return TakeRepeat(receiver, press);
     if (MovesFocus(press)) return false;
     const std::optional<Key> key = reader_.Read(press);
     const bool taken = key && Press(*key);
     return taken || !Takes(receiver, key);
+}
+
+bool KeyFilter::TakeRepeat(const QObject* receiver, const QKeyEvent& press) {
+    if (TakesKeys(receiver)) return MovesFocus(press);
+    if (IsArrow(press) && form_.KeyPreview && form_.OnKeyDown) {
+        if (const std::optional<Key> key = reader_.Read(press)) Press(*key);
+    }
+    return true;
 }
 
 void KeyFilter::TakeText(const QString& text) {

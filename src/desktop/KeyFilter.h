@@ -8,7 +8,8 @@
 namespace platform::desktop {
 
 /// Hands every key press in a window to the screen before any widget sees it. What the screen leaves goes on to the
-/// widget that has the focus if that takes texts or a selection, and nowhere else.
+/// widget that has the focus if that takes texts or a selection, and nowhere else. A key held down repeats itself in
+/// such a widget, and as an arrow key in a form that reads the codes of keys; for all else it is one press.
 class KeyFilter : public QObject {
 public:
     /// `client` is the widget with the focus while no element has it; it takes the characters of input methods.
@@ -22,6 +23,7 @@ public:
 private:
     [[nodiscard]] bool MovesFocus(const QKeyEvent& press) const;
     bool TakeKey(QObject* receiver, const QKeyEvent& press);
+    bool TakeRepeat(const QObject* receiver, const QKeyEvent& press);
     void TakeText(const QString& text);
     bool Press(const Key& key);
 

@@ -1,82 +1,120 @@
 #include "desktop/LabelView.h"
 
 #include <QPainter>
-#include <array>
 
 #include "desktop/Colors.h"
 #include "desktop/Strings.h"
 
 namespace platform::desktop {
 
-namespace {
-
-constexpr int kWrap = Qt::TextWordWrap | Qt::AlignTop;
-
-}  // namespace
-
-void LabelWidget::SetLook(const LabelLook& look, const QFont& font, int lineWidth) {
+void LabelWidget::SetLook(const LabelLook& look, int lineWidth) {
     ground_ = ToQt(look.BackColor);
     ink_ = ToQt(look.ForeColor);
     centred_ = look.Align == Alignment::Centre;
+    snug_ = look.Snug;
     border_ = look.BorderStyle == 0 ? 0 : lineWidth;
     setTextFormat(Qt::PlainText);
     setText(ToQt(look.Caption));
-    setFont(FittedFont(font, text(), TextBox().size()));
     update();
 }
 
 QRect LabelWidget::TextBox() const {
-    return rect().adjusted(border_, border_, -border_, -border_);
+    return contentsRect().adjusted(border_, border_, -border_, -border_);
+}
+
+bool LabelWidget::IsHighLetter() const {
+    return text().size() == 1 && fontMetrics().height() > TextBox().height();
 }
 
 /// Where the first line begins. A single line on a ground of its own stands with its capitals in the middle; every
-/// other text begins at the top. A line that is higher than its box is moved until no stroke of it is cut off.
-int LabelWidget::TextTop(const QRect& box) const {
-    const QFontMetrics metrics = fontMetrics();
-    const int height = metrics.boundingRect(box, kWrap, text()).height();
-    const bool single = height < 2 * metrics.height();
+/// other text begins at the top. A line that is higher than its box is moved until no stroke of it is cut off, but a
+/// letter stays on the line of its neighbours.
+int LabelWidget::TextTop(const TextLines& lines) const {
+    const QRect box = TextBox();
     const bool framed = centred_ && (ground_.isValid() || border_ > 0);
-    if (!single) return framed ? box.top() + qMax(0, (box.height() - height) / 2) : box.top();
-
+    if (lines.Count() > 1) {
+        return framed ? box.top() + qMax(0, (box.height() - qRound(lines.Size().height())) / 2) : box.top();
+    }
+    const QFontMetrics metrics = fontMetrics();
     int top = box.top();
     if (framed) top += (box.height() + metrics.capHeight()) / 2 - metrics.ascent();
+    if (IsHighLetter()) return top;
     if (metrics.height() <= box.height()) return qMax(top, box.top());
     const QRect ink = metrics.tightBoundingRect(text()).translated(0, top + metrics.ascent());
     if (ink.bottom() > box.bottom()) return top - (ink.bottom() - box.bottom());
     return ink.top() < box.top() ? top + box.top() - ink.top() : top;
 }
 
+QMargins LabelWidget::Overhang() const {
+    if (!IsHighLetter()) return {};
+    const QFontMetrics metrics = fontMetrics();
+    const QRect ink = metrics.tightBoundingRect(text()).translated(0, TextTop(Lines()) + metrics.ascent());
+    const QRect box = contentsRect();
+    return {0, qMax(0, box.top() - ink.top() + 1), 0, qMax(0, ink.bottom() - box.bottom() + 1)};
+}
+
 void LabelWidget::PaintBorder(QPainter& painter) const {
     // Sunken into its own ground; a frame around something else is plain.
     const QColor dark = ground_.isValid() ? ground_.darker(250) : QColor(Qt::black);
     const QColor bright = ground_.isValid() ? ground_.lighter(160) : dark;
-    const int w = width();
-    const int h = height();
+    const QRect box = contentsRect();
     const int line = border_;
-    painter.fillRect(0, h - line, w, line, bright);
-    painter.fillRect(w - line, 0, line, h, bright);
-    painter.fillRect(0, 0, w, line, dark);
-    painter.fillRect(0, 0, line, h, dark);
+    painter.fillRect(box.left(), box.bottom() + 1 - line, box.width(), line, bright);
+    painter.fillRect(box.right() + 1 - line, box.top(), line, box.height(), bright);
+    painter.fillRect(box.left(), box.top(), box.width(), line, dark);
+    painter.fillRect(box.left(), box.top(), line, box.height(), dark);
 }
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (ground_.isValid()) painter.fillRect(rect(), ground_);
+    const TextLines lines = Lines();
+    const QPoint corner(TextBox().left(), TextTop(lines));
+    const bool isSnug = snug_ && !text().isEmpty();
+    if (ground_.isValid()) painter.fillRect(isSnug ? QRectF(corner, lines.Size()) : QRectF(contentsRect()), ground_);
     if (border_ > 0) PaintBorder(painter);
-    if (text().isEmpty()) return;
-    QRect box = TextBox();
-    box.setTop(TextTop(box));
     painter.setPen(ink_);
-    painter.drawText(box, kWrap | Qt::TextDontClip | (centred_ ? Qt::AlignHCenter : Qt::AlignLeft), text());
+    lines.Draw(painter, corner, centred_);
 }
 
 LabelView::LabelView(const Toolkit& toolkit, Label& element, QWidget& client) : ElementView(toolkit, element, client) {
     TakeClicks();
 }
 
+QString LabelView::FamilyOf(const LabelLook& look) {
+    return QStringLiteral("%1 %2 %3 %4 %5 %6")
+        .arg(static_cast<int>(look.Font))
+        .arg(look.FontSize)
+        .arg(look.BackColor.Rgb)
+        .arg(look.ForeColor.Rgb)
+        .arg(static_cast<int>(look.Align))
+        .arg(look.BorderStyle);
+}
+
 void LabelView::Apply(const LabelLook& look) {
-    widget_.SetLook(look, toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold), toolkit_.Scale.LineWidth(1));
+    const QFont font = toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold);
+    widget_.setContentsMargins({});
+    widget_.setGeometry(Geometry(element_));
+    widget_.SetLook(look, toolkit_.Scale.LineWidth(1));
+    widget_.setFont(font);
+    needed_ = FittedFont(font, widget_.text(), widget_.TextBox().size()).pixelSize();
+    family_ = FamilyOf(look);
+    SetOverhang();
+    SetFontSize(needed_);
     SetToolTip(widget_, look.ToolTipText);
+}
+
+void LabelView::SetFontSize(int pixels) {
+    QFont font = widget_.font();
+    if (font.pixelSize() == pixels) return;
+    font.setPixelSize(pixels);
+    widget_.setFont(font);
+    SetOverhang();
+}
+
+void LabelView::SetOverhang() {
+    const QMargins overhang = widget_.Overhang();
+    widget_.setContentsMargins(overhang);
+    widget_.setGeometry(Geometry(element_).marginsAdded(overhang));
 }
 
 }  // namespace platform::desktop

@@ -22,7 +22,8 @@ private:
     bool pressed_ = false;
 };
 
-/// The view of a list box.
+/// The view of a list box. It shows whole rows, and each line whole: where one of them is too long, the letters of all
+/// are smaller.
 class ListBoxView : public ElementView<ListBox, ListWidget> {
 public:
     ListBoxView(const Toolkit& toolkit, ListBox& element, QWidget& client);
@@ -31,6 +32,9 @@ protected:
     void Apply(const ListBoxLook& look) override;
 
 private:
+    void SetLines(const std::vector<Text>& lines);
+    void SetRows(const QFont& font);
+
     std::vector<Text> lines_;
 };
 

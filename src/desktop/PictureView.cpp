@@ -17,7 +17,8 @@ void PictureWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QSize seen = pixmap_.deviceIndependentSize().toSize().boundedTo(size());
     const double ratio = pixmap_.devicePixelRatio();
-    painter.drawPixmap(QRectF(QPointF(), seen), pixmap_, QRectF(QPointF(), QSizeF(seen) * ratio));
+    const QPoint corner((width() - seen.width()) / 2, (height() - seen.height()) / 2);
+    painter.drawPixmap(QRectF(corner, seen), pixmap_, QRectF(QPointF(), QSizeF(seen) * ratio));
 }
 
 PictureBoxView::PictureBoxView(const Toolkit& toolkit, PictureBox& element, QWidget& client)

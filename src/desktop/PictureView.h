@@ -6,7 +6,7 @@
 
 namespace platform::desktop {
 
-/// Shows a picture from its top left corner on; what reaches beyond the widget is not seen.
+/// Shows a picture in the middle of the widget; one that is larger from its top left corner on, cut at the widget.
 class PictureWidget : public QWidget {
 public:
     using QWidget::QWidget;

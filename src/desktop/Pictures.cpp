@@ -5,7 +5,11 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPixmapCache>
+#include <algorithm>
+#include <array>
+#include <vector>
 
+#include "desktop/Companion.h"
 #include "desktop/Strings.h"
 
 namespace platform::desktop {
@@ -13,11 +17,18 @@ namespace platform::desktop {
 namespace {
 
 constexpr int kLargestKept = 200'000;  // pixels
+constexpr std::array<int, 2> kCompanions = {2, 4};
 
-/// The two files of one picture; the paths are empty where there is none.
+/// One file of a picture and how many times the picture's own size it has.
+struct Version {
+    QString path;
+    int times;
+};
+
+/// The files of one picture, the picture itself first; none if there is no such picture.
 struct Source {
-    QString single;
-    QString twice;
+    std::vector<Version> versions;
+    bool isLoaded;  ///< by name from a folder, where each file may have been exchanged alone
 };
 
 /// Reads by the format that the name tells: a search among all formats would load every one of them.
@@ -28,47 +39,62 @@ public:
     }
 };
 
-QString Existing(const QString& path) {
-    return QFile::exists(path) ? path : QString();
-}
-
-QString FindStored(const QString& name) {
-    const QString png = Existing(name + ".png");
-    return png.isEmpty() ? Existing(name + ".jpg") : png;
+/// With 32 bits a pixel: a picture with a palette cannot be scaled.
+QImage Decode(const QString& path) {
+    const QImage image = Reader(path).read();
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
 Source SourceOf(const PictureLook& look) {
-    if (look.Picture.empty()) {
-        const QString name = ":/forms/" + ToQt(std::string_view(look.Stored));
-        return {FindStored(name), FindStored(name + "@2x")};
+    Source source{.versions = {}, .isLoaded = !look.Picture.empty()};
+    const auto add = [&source](const QString& path, int times) {
+        if (QFile::exists(path)) source.versions.push_back({path, times});
+    };
+    const QString file = source.isLoaded ? ToQt(look.Picture) : ":/forms/" + ToQt(std::string_view(look.Stored));
+    const QString name = source.isLoaded ? file.left(file.lastIndexOf('.')) : file;
+    if (source.isLoaded) {
+        add(file, 1);
+    } else {
+        add(name + ".png", 1);
+        if (source.versions.empty()) add(name + ".jpg", 1);
     }
-    const QString file = ToQt(look.Picture);
-    return {Existing(file), Existing(file.left(file.lastIndexOf('.')) + "@2x.png")};
+    if (source.versions.empty()) return source;
+    const QString ending = source.isLoaded ? QString(".png") : "." + QFileInfo(source.versions.front().path).suffix();
+    for (const int times : kCompanions) add(name + QStringLiteral("@%1x").arg(times) + ending, times);
+    return source;
 }
 
-/// Decodes a picture. A palette does not outlive this: scaling one smoothly is more than the toolkit can do.
-QImage Decode(const QString& path) {
-    QImage image = Reader(path).read();
-    if (!image.isNull()) {
-        image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    }
-    return image;
+QSize SizeOf(const Source& source) {
+    return source.versions.empty() ? QSize() : Reader(source.versions.front().path).size();
 }
 
-/// Reads a picture into `size` logical pixels, or into its own size at `factor` if `size` is not valid.
-QPixmap Read(const Source& source, QSize size, double factor) {
-    const QSize own = source.single.isEmpty() ? QSize() : Reader(source.single).size();
-    if (!own.isValid()) return {};
-    if (!size.isValid()) size = (QSizeF(own) * factor).toSize();
+/// The picture from the smallest of its files that is at least as wide as asked for, else from the next smaller one.
+QImage Choose(const Source& source, QSize own, int width) {
+    const auto& versions = source.versions;
+    const auto enough = [own, width](const Version& version) { return own.width() * version.times >= width; };
+    std::vector<Version> order(std::ranges::find_if(versions, enough), versions.end());
+    std::ranges::copy_if(versions.rbegin(), versions.rend(), std::back_inserter(order),
+                         [&enough](const Version& version) { return !enough(version); });
+    for (const Version& version : order) {
+        QImage image = Decode(version.path);
+        const bool isCompanion = source.isLoaded && version.times > 1;
+        if (!image.isNull() && (!isCompanion || BelongTogether(Decode(versions.front().path), image))) return image;
+    }
+    return {};
+}
+
+/// A picture in `size` logical pixels.
+QPixmap Read(const Source& source, QSize size) {
+    const QSize own = SizeOf(source);
+    if (!own.isValid() || size.isEmpty()) return {};
     const double ratio = qGuiApp->devicePixelRatio();
     const QSize target = (QSizeF(size) * ratio).toSize();
-    const QString key = QStringLiteral("%1 %2 %3").arg(source.single).arg(target.width()).arg(target.height());
+    const QString path = source.versions.front().path;
+    const QString key = QStringLiteral("%1 %2 %3").arg(path).arg(target.width()).arg(target.height());
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
 
-    const bool wantsTwice = target.width() > own.width() && !source.twice.isEmpty();
-    QImage image = Decode(wantsTwice ? source.twice : source.single);
-    if (image.isNull()) image = Decode(source.single);
+    QImage image = Choose(source, own, target.width());
     if (image.isNull()) return {};
     if (image.size() != target) image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     pixmap = QPixmap::fromImage(std::move(image));
@@ -77,18 +103,32 @@ QPixmap Read(const Source& source, QSize size, double factor) {
     return pixmap;
 }
 
+PictureLook StoredLook(const std::string& name) {
+    return {.Stored = name, .Picture = {}, .ToolTipText = {}};
+}
+
 }  // namespace
 
+QSize Pictures::SizeOf(TextView file) const {
+    return desktop::SizeOf(SourceOf({.Stored = {}, .Picture = Text(file), .ToolTipText = {}}));
+}
+
 QPixmap Pictures::OwnSize(const PictureLook& look) const {
-    return Read(SourceOf(look), {}, scale_.Factor());
+    const Source source = SourceOf(look);
+    return Read(source, (QSizeF(desktop::SizeOf(source)) * scale_.Factor()).toSize());
 }
 
 QPixmap Pictures::Fitted(const PictureLook& look, QSize size) const {
-    return size.isEmpty() ? QPixmap() : Read(SourceOf(look), size, scale_.Factor());
+    return Read(SourceOf(look), size);
 }
 
 QPixmap Pictures::Stored(const std::string& name, QSize size) const {
-    return Fitted(PictureLook{.Stored = name, .Picture = {}, .ToolTipText = {}}, size);
+    return Fitted(StoredLook(name), size);
+}
+
+QPixmap Pictures::Covering(const std::string& name, QSize area) const {
+    const Source source = SourceOf(StoredLook(name));
+    return Read(source, (QSizeF(desktop::SizeOf(source)) * scale_.Factor()).toSize().expandedTo(area));
 }
 
 }  // namespace platform::desktop

@@ -1,6 +1,5 @@
 #include "desktop/Scale.h"
 
-#include <QFontMetrics>
 #include <QStringList>
 #include <array>
 #include <cmath>
@@ -15,9 +14,8 @@ constexpr double kLargestHeight = 568 + 23;
 /// Title bar and borders belong to the desktop and do not scale with the game.
 constexpr int kFrameWidth = 4;
 constexpr int kFrameHeight = 40;
-constexpr double kStep = 0.25;
-/// In percent: MS Sans Serif is a trifle narrower than what stands in for it, and texts are laid out to the line.
-constexpr int kSansStretch = 97;
+constexpr double kSmallest = 0.25;
+constexpr double kTolerance = 0.001;
 
 /// The families that stand in for the fonts of the design, by FontName: first those of equal widths that the package
 /// brings along, then what other systems have.
@@ -29,12 +27,18 @@ const QStringList& Families(FontName name) {
     return *kFamilies.at(static_cast<std::size_t>(name));
 }
 
+/// In percent: MS Sans Serif is a trifle narrower than what stands in for it, and texts are laid out to the line.
+int StretchOf(FontName name) {
+    return name == FontName::MSSansSerif ? 97 : 100;
+}
+
 }  // namespace
 
 Scale Scale::For(QSize available) {
+    constexpr double kHundred = 100;
     const double fits = std::min((available.width() - kFrameWidth) / kLargestWidth,
                                  (available.height() - kFrameHeight) / kLargestHeight);
-    return Scale(fits < 1 ? std::max(fits, kStep) : std::floor(fits / kStep) * kStep);
+    return Scale(std::max(std::floor(fits * kHundred) / kHundred, kSmallest));
 }
 
 QRect Scale::Rect(const Place& place) const {
@@ -45,26 +49,14 @@ QRect Scale::Rect(const Place& place) const {
 
 QFont Scale::Font(FontName name, double points, bool bold) const {
     constexpr double kTwipsPerPoint = 20;
-    constexpr double kTolerance = 0.001;
+    const double exact = points * kTwipsPerPoint / kTwipsPerPixel * factor_;
+    const int pixels = qMax(1, static_cast<int>(exact + kTolerance));
     QFont font(Families(name));
-    font.setPixelSize(qMax(1, static_cast<int>(points * kTwipsPerPoint / kTwipsPerPixel * factor_ + kTolerance)));
+    font.setPixelSize(pixels);
     font.setBold(bold);
-    if (name == FontName::MSSansSerif) font.setStretch(kSansStretch);
+    font.setStretch(qMax(1, static_cast<int>(StretchOf(name) * exact / pixels + kTolerance)));
     // Hinted in height only: crisp, and as wide at every factor and on every machine as the design has it.
     font.setHintingPreference(QFont::PreferVerticalHinting);
-    return font;
-}
-
-QFont FittedFont(QFont font, const QString& text, QSize box) {
-    if (text.size() < 2) return font;
-    const int smallest = font.pixelSize() / 2;
-    const auto fits = [&font, &text, &box] {
-        const QFontMetrics metrics(font);
-        const QSize size = metrics.boundingRect(QRect(QPoint(), box), Qt::TextWordWrap, text).size();
-        const bool isLine = size.height() < 2 * metrics.height();
-        return size.width() <= box.width() && (isLine || size.height() <= box.height());
-    };
-    while (font.pixelSize() > smallest && !fits()) font.setPixelSize(font.pixelSize() - 1);
     return font;
 }
 

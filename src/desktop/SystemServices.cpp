@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -39,13 +40,30 @@ void MessageDialogs::MsgBox(TextView text, TextView title) {
     ShowWarning(display_.FrontWindow(), text, title);
 }
 
+namespace {
+
+/// Takes away what a key held down repeats.
+class RepeatFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
+        return event->type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(*event).isAutoRepeat();
+    }
+};
+
+}  // namespace
+
 void ShowWarning(QWidget* owner, TextView text, TextView title) {
     QMessageBox box(owner);
     box.setIcon(QMessageBox::Warning);
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(text));
     box.setWindowTitle(ToQt(title));
-    box.addButton("Aceptar", QMessageBox::AcceptRole);
+    // The key that brought the box up must not take it away again while it is held.
+    RepeatFilter held;
+    box.addButton("Aceptar", QMessageBox::AcceptRole)->installEventFilter(&held);
+    box.installEventFilter(&held);
     box.exec();
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/View.h"
 
-#include <QMouseEvent>
+#include <QEvent>
 
 #include "desktop/ButtonView.h"
 #include "desktop/FigureViews.h"
@@ -13,43 +13,6 @@
 namespace platform::desktop {
 
 namespace {
-
-/// Turns the left mouse button into clicks of an element.
-class ClickFilter : public QObject {
-public:
-    ClickFilter(QWidget& widget, Screen& screen, Control& element)
-        : QObject(&widget), screen_(screen), element_(element) {
-        widget.installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* receiver, QEvent* event) override {
-        switch (event->type()) {
-            case QEvent::MouseButtonPress:
-            case QEvent::MouseButtonDblClick: return IsLeft(*event);
-            case QEvent::MouseButtonRelease: return IsLeft(*event) && Release(receiver, *event);
-            default: return false;
-        }
-    }
-
-private:
-    static bool IsLeft(const QEvent& event) {
-        return static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
-    }
-
-    bool Release(QObject* receiver, const QEvent& event) {
-        const QPoint spot = static_cast<const QMouseEvent&>(event).position().toPoint();
-        if (!static_cast<QWidget*>(receiver)->rect().contains(spot)) return true;
-        if (element_.Click) {
-            screen_.Click(element_);
-        } else {
-            screen_.Click(element_.Owner);
-        }
-        return true;
-    }
-
-    Screen& screen_;
-    Control& element_;
-};
 
 /// Tells the screen that the player has moved the focus to an element.
 class FocusFilter : public QObject {
@@ -84,7 +47,14 @@ View::View(const Toolkit& toolkit, Control& element, QWidget& widget)
 }
 
 void View::TakeClicks() {
-    new ClickFilter(widget_, toolkit_.Screen, element_);
+    if (element_.Click) widget_.setCursor(Qt::PointingHandCursor);
+    new ClickFilter(widget_, toolkit_.DoubleClicks, [this] {
+        if (element_.Click) {
+            toolkit_.Screen.Click(element_);
+        } else {
+            toolkit_.Screen.Click(element_.Owner);
+        }
+    });
 }
 
 void View::TakeFocus(int tabIndex) {

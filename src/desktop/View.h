@@ -6,18 +6,20 @@
 #include <memory>
 #include <optional>
 
+#include "desktop/Clicks.h"
 #include "desktop/Pictures.h"
 #include "desktop/Scale.h"
 #include "platform/Screen.h"
 
 namespace platform::desktop {
 
-/// What every window and every view needs: where input goes, how long a twip is, where pictures come from. All three
-/// outlive the windows.
+/// What every window and every view needs: where input goes, how long a twip is, where pictures come from. All of it
+/// outlives the windows.
 struct Toolkit {
     platform::Screen& Screen;
     const desktop::Scale& Scale;
     const desktop::Pictures& Pictures;
+    desktop::DoubleClicks& DoubleClicks;
 };
 
 /// Brings the state of one element before the player's eyes, in one widget named like the element.
@@ -34,7 +36,7 @@ public:
     [[nodiscard]] QWidget& Widget() const { return widget_; }
 
 protected:
-    /// Lets the left mouse button, pressed and released on the widget, click the element; the form instead, if the
+    /// Lets the left mouse button click the element, over which the pointer becomes a hand; the form instead, if the
     /// element has nothing to do.
     void TakeClicks();
     /// Gives the widget its place in the order of the focus and tells the screen when the player moves it there.

@@ -22,8 +22,10 @@ FormWindow* WindowDisplay::FrontWindow() const {
 
 void WindowDisplay::Opened(Form& form, bool modal) {
     const auto& shown = screen_->Shown();
-    FormWindow* const owner = shown.size() < 2 ? nullptr : WindowOf(*shown[shown.size() - 2]);
-    auto* const window = new FormWindow(Kit(), form, owner, modal);
+    const bool alone = shown.size() < 2;
+    const FormWindow::Before before = {.first = alone ? nullptr : WindowOf(*shown.front()),
+                                       .front = alone ? nullptr : WindowOf(*shown[shown.size() - 2])};
+    auto* const window = new FormWindow(Kit(), form, before, modal);
     windows_[&form] = window;
     if (!hadWindow_) {
         // The window is up when what it has painted has left for the screen: after this round of the event loop.
@@ -59,6 +61,12 @@ void WindowDisplay::Refresh() {
 void WindowDisplay::WaitUntil(const std::function<bool()>& done) {
     QEventLoop loop;
     while (!done()) loop.processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+std::optional<PictureSize> WindowDisplay::SizeOf(TextView picture) const {
+    const QSize size = pictures_.SizeOf(picture);
+    if (!size.isValid()) return std::nullopt;
+    return PictureSize{.Width = size.width(), .Height = size.height()};
 }
 
 void WindowDisplay::End() {

@@ -12,7 +12,7 @@ namespace platform::desktop {
 /// The windows on the player's screen.
 class WindowDisplay : public Display {
 public:
-    explicit WindowDisplay(const Scale& scale) : scale_(scale), pictures_(scale) {}
+    explicit WindowDisplay(const Scale& scale) : scale_(scale) {}
     ~WindowDisplay() override;
 
     /// Where the player's input goes; to be told before the first form is shown.
@@ -23,11 +23,12 @@ public:
     void Refresh() override;
     void WaitUntil(const std::function<bool()>& done) override;
     void End() override;
+    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
 
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// What its windows are made with.
-    [[nodiscard]] Toolkit Kit() const { return {*screen_, scale_, pictures_}; }
+    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_}; }
     /// The window in front; null if there is none.
     [[nodiscard]] FormWindow* FrontWindow() const;
 
@@ -37,7 +38,8 @@ public:
 
 private:
     const Scale scale_;
-    const Pictures pictures_;
+    const Pictures pictures_{scale_};
+    DoubleClicks doubleClicks_;
     Screen* screen_ = nullptr;
     std::map<const Form*, QPointer<FormWindow>> windows_;
     bool hadWindow_ = false;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "headless/Bitmap.h"
 #include "platform/Generator.h"
 #include "platform/Screen.h"
 #include "platform/Services.h"
@@ -105,6 +106,7 @@ private:
     void Refresh() override;
     void WaitUntil(const std::function<bool()>& done) override;
     void End() override;
+    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override { return BitmapSize(picture); }
     void Beep() override { log.Add("beep"); }
     void MsgBox(TextView text, TextView title) override;
     bool ShowDialog() override;

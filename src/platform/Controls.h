@@ -128,12 +128,14 @@ struct LabelLook {
     Alignment Align = Alignment::Centre;
     int BorderStyle = 0;  ///< 1: a single border
     Text ToolTipText{};
+    bool Snug = false;  ///< the ground lies behind the text alone, not in the whole box
 
     bool operator==(const LabelLook&) const = default;
 };
 using Label = Element<Kind::Label, LabelLook>;
 
-/// A picture, shown in its own size. While Picture names no file that can be read, the last one shown stays.
+/// A picture, shown in its own size; a picture box takes the size of the file that is loaded into it. While Picture
+/// names no file that can be read, the last one shown stays.
 struct PictureLook {
     std::string Stored{};  ///< the picture stored with the form, by its resource name
     Text Picture{};        ///< the file loaded into the element, by its bare name; empty: the stored one

@@ -15,7 +15,7 @@ struct FormLook {
     Text Caption{};
     int Width = 0;  ///< of the client area, twips
     int Height = 0;
-    int Left = -1;  ///< from the corner of the screen, twips; -1: centred on the screen
+    int Left = -1;  ///< of the client area, from the corner of that of the main window; -1: centred on the screen
     int Top = -1;
     Color BackColor = White;
     std::string Background{};  ///< picture stored with the form that fills it; empty: none

@@ -13,6 +13,7 @@ void Screen::Load(Form& form) {
     loaded_.push_back(&form);
     for (Timer* timer : form.Timers()) timer->Attach(scheduler_);
     form.ToDesign();
+    FitPictures(form);
     if (form.OnLoad) form.OnLoad();
 }
 
@@ -21,7 +22,27 @@ void Screen::Open(Form& form, bool modal) {
     if (!Contains(loaded_, form) || Contains(shown_, form)) return;
     shown_.push_back(&form);
     if (modal) modal_.push_back(&form);
+    FitPictures(form);
     display_.Opened(form, modal);
+}
+
+void Screen::FitPictures(const Form& form) {
+    for (Control* control : form.Controls()) {
+        if (control->kind == Kind::PictureBox) FitToPicture(static_cast<PictureBox&>(*control));
+    }
+}
+
+void Screen::FitToPicture(PictureBox& box) {
+    constexpr int kTwipsPerPixel = 15;
+    constexpr int kLargest = 32767 / kTwipsPerPixel;
+    const auto sensible = [](int pixels) { return pixels > 0 && pixels <= kLargest; };
+    Text& fitted = fitted_[&box];
+    if (fitted == box.Picture) return;
+    fitted = box.Picture;
+    const auto size = fitted.empty() ? std::nullopt : display_.SizeOf(fitted);
+    if (!size || !sensible(size->Width) || !sensible(size->Height)) return;
+    box.Width = size->Width * kTwipsPerPixel;
+    box.Height = size->Height * kTwipsPerPixel;
 }
 
 void Screen::Show(Form& form) {
@@ -70,6 +91,7 @@ void Screen::Run(const std::function<void()>& handler) {
 }
 
 void Screen::Settle() {
+    for (const Form* form : loaded_) FitPictures(*form);
     if (OnSettled) OnSettled();
     display_.Refresh();
 }

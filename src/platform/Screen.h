@@ -1,12 +1,20 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <vector>
 
 #include "platform/Scheduler.h"
 #include "platform/Services.h"
 
 namespace platform {
+
+/// Of a picture, in pixels of 15 twips.
+struct PictureSize {
+    int Width = 0;
+    int Height = 0;
+};
 
 /// How a platform brings windows before the player's eyes. Screen calls it; it holds none of the rules.
 class Display {
@@ -23,13 +31,16 @@ public:
     virtual void WaitUntil(const std::function<bool()>& done) = 0;
     /// Ends the program; does not come back.
     virtual void End() = 0;
+    /// The size of a picture file, by its bare name; nothing if it cannot be told.
+    [[nodiscard]] virtual std::optional<PictureSize> SizeOf(TextView /*picture*/) const { return std::nullopt; }
 };
 
 /// Why an event does not reach an element.
 enum class Refusal { None, Closed, Blocked, Hidden, Disabled };
 
 /// The rules of windows that both platforms keep: which forms are loaded and shown, what a modal form blocks, which
-/// element an event reaches, key preview, shortcuts, default and cancel buttons, closing routines, timers.
+/// element an event reaches, key preview, shortcuts, default and cancel buttons, closing routines, timers, the size of
+/// picture boxes.
 class Screen : public Forms {
 public:
     Screen(Display& display, Scheduler& scheduler) : display_(display), scheduler_(scheduler) {}
@@ -74,6 +85,8 @@ public:
 private:
     bool Contains(const std::vector<Form*>& forms, const Form& form) const;
     void Open(Form& form, bool modal);
+    void FitPictures(const Form& form);
+    void FitToPicture(PictureBox& box);
     void Run(const std::function<void()>& handler);
     void Settle();
     Refusal Trigger(Control& control);
@@ -87,6 +100,7 @@ private:
     std::vector<Form*> shown_;
     std::vector<Form*> modal_;
     std::vector<Form*> closing_;
+    std::map<const PictureBox*, Text> fitted_;  // the file to whose size a box was last fitted
 };
 
 }  // namespace platform

@@ -29,6 +29,7 @@ void Juego::ConectarVentana() {
     z.OnQueryUnload = [this] { s.Forms.End(); };
     z.OnKeyPress = [this](int keyAscii) { letras.Form_KeyPress(keyAscii); };
     z.lblTecla.OnClick([this](int index) { letras.lblTecla_Click(index); });
+    z.shpTecla.OnClick([this](int index) { letras.lblTecla_Click(index); });
     z.lblComodín.OnClick([this](int index) { comodines.lblComodín_Click(index); });
     z.lblLetra.OnClick([this](int index) { comodines.lblLetra_Click(index); });
     z.tmrTiempo.Click = [this] { reloj.tmrTiempo_Timer(); };

@@ -20,7 +20,7 @@ public:
         {1230, 210, 2115, 465},
         {.Caption = u" CREADO Y   PROGRAMADO POR", .BackColor = 0xFFFF80, .ForeColor = Blue, .FontBold = true}};
     Label Label3{*this, "Label3", {1230, 750, 2115, 585}, Nombre(u"Equipo de Zarpi")};
-    Line Line1{*this, "Line1", {1230, 1470, 2160, 0}, {.BorderColor = Blue, .BorderWidth = 3}};
+    Line Line1{*this, "Line1", {1200, 1470, 2190, 0}, {.BorderColor = Blue, .BorderWidth = 3}};
     Label Label4{*this,
                  "Label4",
                  {870, 1620, 2835, 675},

@@ -132,6 +132,7 @@ private:
     static LabelLook Apartado(double size, TextView caption) {
         LabelLook look = Heading(caption, size);
         look.Align = Alignment::Left;
+        look.Snug = true;
         return look;
     }
     static LabelLook Párrafo(double size, TextView caption) {
@@ -140,6 +141,7 @@ private:
     static LabelLook Negrita(double size, TextView caption) {
         LabelLook look = Párrafo(size, caption);
         look.FontBold = true;
+        look.Snug = true;
         return look;
     }
     static ShapeLook Panel() { return {.FillColor = Cream, .BorderColor = Olive, .BorderWidth = 3}; }

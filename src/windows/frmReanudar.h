@@ -24,8 +24,8 @@ public:
     CommandButton cmdCancelar{*this, "cmdCancelar", {3720, 5430, 1425, 405}, CancelButton(3)};
     ListBox lstLista{*this, "lstLista", {240, 570, 1785, 1260}, {.FontBold = true, .TabIndex = 4}};
     TextBox txtContraseña{*this, "txtContraseña", {2910, 4410, 2445, 435}, {.Password = true, .TabIndex = 1}};
-    PictureBox Picture1{*this, "Picture1", {180, 4200, 615, 960}, SmallZarpi()};
-    PictureBox Picture2{*this, "Picture2", {5850, 4200, 615, 960}, SmallZarpi()};
+    PictureBox Picture1{*this, "Picture1", {480, 4200, 615, 960}, SmallZarpi()};
+    PictureBox Picture2{*this, "Picture2", {5580, 4200, 615, 960}, SmallZarpi()};
     Label Label5{*this, "Label5", {2160, 300, 1095, 255}, FieldName(u"Nombre:")};
     Label Label1{*this, "Label1", {3420, 240, 2415, 405}, Valor()};
     Label Label6{*this, "Label6", {2280, 840, 975, 255}, FieldName(u"Fecha:")};

@@ -7,6 +7,7 @@
 #include "commentary/FrasesReaccion.h"
 #include "desktop/Scale.h"
 #include "desktop/Strings.h"
+#include "desktop/TextLines.h"
 #include "windows/Presentaciones.h"
 #include "windows/frmNivel.h"
 #include "words/Tablas.h"

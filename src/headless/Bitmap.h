@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/Screen.h"
+
+namespace platform::headless {
+
+/// The size of a bitmap file of the current folder, from its header; nothing if there is none that can be read.
+std::optional<PictureSize> BitmapSize(TextView name);
+
+}  // namespace platform::headless
