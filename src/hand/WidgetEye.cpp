@@ -1,6 +1,7 @@
 #include "hand/WidgetEye.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -58,18 +59,16 @@ Sight PlaceSeen(const Scale& scale, const Control& control, const QWidget& widge
     return std::nullopt;
 }
 
-/// A font that is smaller because its text would not fit into its box agrees with the state.
+/// A text of several letters may be smaller, down to a half, so that it fits into its box.
 Value FontSizeSeen(const Scale& scale, const QWidget& widget, const Value& state) {
     constexpr double kPointsPerTwip = 0.05;
     const double points = std::get<double>(state);
     const int wanted = scale.Font(FontName::Arial, points, false).pixelSize();
-    const int seen = widget.font().pixelSize();
+    const int seen = QFontInfo(widget.font()).pixelSize();
     const auto* const label = dynamic_cast<const QLabel*>(&widget);
     const auto* const button = dynamic_cast<const QPushButton*>(&widget);
     const QString text = label != nullptr ? label->text() : button != nullptr ? button->text() : QString();
-    QFont full = widget.font();
-    full.setPixelSize(wanted);
-    const bool shrunk = seen < wanted && desktop::FittedFont(full, text, widget.size()).pixelSize() < wanted;
+    const bool shrunk = text.size() > 1 && seen < wanted && seen >= wanted / 2;
     return seen == wanted || shrunk ? state : Value(ToTwips(scale, seen) * kPointsPerTwip);
 }
 

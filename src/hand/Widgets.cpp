@@ -1,6 +1,6 @@
 #include "hand/Widgets.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 
 #include "desktop/Strings.h"
@@ -32,7 +32,9 @@ void Settle(const desktop::WindowDisplay& display) {
     do {
         QCoreApplication::processEvents();
         const desktop::FormWindow* const front = display.FrontWindow();
-        if (front == nullptr || front->isActiveWindow()) return;
+        if (front == nullptr || !front->isVisible() || front->isActiveWindow()) return;
+        const QWidget* const modal = QApplication::activeModalWidget();
+        if (modal != nullptr && modal != front) return;
     } while (waited.elapsed() < kPatience);
 }
 

@@ -194,9 +194,14 @@ bool Screen::Press(const Key& key) {
 
 void Screen::TypeKey(const Key& key) {
     Control* const focus = Front() == nullptr ? nullptr : Front()->Focus();
-    if (focus == nullptr || focus->kind != Kind::TextBox || key.Character < u' ') return;
-    auto& box = static_cast<TextBox&>(*focus);
-    Type(box, box.Text + key.Character);
+    if (focus == nullptr) return;
+    if (focus->kind == Kind::TextBox && key.Character >= u' ') {
+        auto& box = static_cast<TextBox&>(*focus);
+        Type(box, box.Text + key.Character);
+    } else if (focus->kind == Kind::ListBox && (key.Code == KeyUp || key.Code == KeyDown)) {
+        auto& list = static_cast<ListBox&>(*focus);
+        Select(list, list.ListIndex + (key.Code == KeyUp ? -1 : 1));
+    }
 }
 
 bool Screen::Tick(Moment now) {

@@ -59,7 +59,8 @@ public:
     /// A key for the form in front: help, key preview, shortcuts, default and cancel button. False: it goes on to the
     /// element that has the focus.
     bool Press(const Key& key);
-    /// A key for the text box that has the focus, if there is one: its character goes to the end of the text.
+    /// A key for what has the focus: its character goes to the end of the text of a text box, Up and Down select the
+    /// line before or behind in a list box.
     void TypeKey(const Key& key);
     /// The text of a text box as the player leaves it, within the limits of the box.
     Refusal Type(TextBox& box, TextView text);

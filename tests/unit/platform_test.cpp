@@ -176,11 +176,13 @@ TEST_F(Windows, ButtonsStandBeforeLabelsWhateverComesToTheFront) {
 TEST_F(Windows, AClickIsOneChoiceWhateverIsSelected) {
     ShowModal({[this] { hand.Select(dialog.list, 2); }, [this] { hand.Select(dialog.list, 2); },
                [this] { hand.Select(dialog.list, 0); }, [this] { hand.Select(dialog.list, 7); },
+               [this] { hand.Press(PlainKey(KeyDown)); }, [this] { hand.Press(PlainKey(KeyDown)); },
+               [this] { hand.Press(PlainKey(KeyUp)); }, [this] { hand.Press(KeyOf(u't')); },
                [this] { EXPECT_EQ(dialog.list.ListIndex, 1); }, [this] { EXPECT_EQ(dialog.Focus(), &dialog.list); },
                [this] { hand.Type(dialog.box, u"abc"); }, [this] { EXPECT_EQ(dialog.box.Text, u"abc"); },
                [this] { hand.Click(dialog.box); }, [this] { EXPECT_EQ(dialog.box.Text, u""); },
                [this] { hand.Close(); }});
-    EXPECT_EQ(story, "L220Q.");
+    EXPECT_EQ(story, "L22021Q.");
 }
 
 TEST_F(Windows, TheEndRunsNothingMore) {
