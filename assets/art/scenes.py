@@ -49,6 +49,10 @@ def fields(ink: Ink) -> None:
     way(ink, [(262, 450), (258, 356), (300, 278), (272, 216), (330, 168), (378, 116)], 92, 4, "#fff3cf")
 
 
+# The laths of a sail, the stock first.
+SPARS = (((0, 0), (32, 0)), ((8, 7), (31, 9)), ((8, 0), (8, 7)), ((16, 0), (16, 7.7)), ((23.5, 0), (23.5, 8.3)), ((31, 0), (31, 9)))
+
+
 def _mill(ink: Ink, x: float, y: float, s: float) -> None:
     soft(ink, [(x - 13 * s, y + 4, 1), (x - 9 * s, y - 34 * s, 1), (x + 9 * s, y - 34 * s, 1), (x + 13 * s, y + 4, 1)], "#f6d79c", 0.5)
     soft(ink, [(x + 3 * s, y + 4, 1), (x + 2 * s, y - 34 * s, 1), (x + 9 * s, y - 34 * s, 1), (x + 13 * s, y + 4, 1)], "#eec483", 0.5)
@@ -57,7 +61,7 @@ def _mill(ink: Ink, x: float, y: float, s: float) -> None:
     for turn in (32, 122, 212, 302):
         sail = Affine().move(x, y - 38 * s).turn(turn).scale(s)
         soft(ink, sail.knots([(8, 0, 1), (31, 0, 1), (31, 9, 1), (8, 7, 1)]), "#f3cf93", 0.3)
-        for start, end in (((0, 0), (32, 0)), ((8, 7), (31, 9)), ((8, 0), (8, 7)), ((16, 0), (16, 7.7)), ((23.5, 0), (23.5, 8.3)), ((31, 0), (31, 9))):
+        for start, end in SPARS:
             ink.line([sail(start), sail(end)], 1.5 * s if start == (0, 0) else 0.9 * s, "#d99f54")
     soft(ink, ellipse(x, y - 38 * s, 2.6 * s, 2.6 * s), "#c98c42", 0.3)
 
@@ -66,7 +70,8 @@ def wood(ink: Ink) -> None:
     """Three rows of firs, each on the slope that it grows from; they open where the way goes in."""
     fill(ink, vertical(ink, (0, "#d4ebcb"), (0.5, "#ebf6db"), (1, "#bfdfa5")))
     draw = random.Random(4)
-    for depth, (y, size, leaf, slope) in enumerate(((112, 58, "#c9e5c0", "#d9eed0"), (140, 82, "#b9dcaf", "#cfe8c2"), (180, 108, "#abd4a0", "#c5e3b2"))):
+    rows = ((112, 58, "#c9e5c0", "#d9eed0"), (140, 82, "#b9dcaf", "#cfe8c2"), (180, 108, "#abd4a0", "#c5e3b2"))
+    for depth, (y, size, leaf, slope) in enumerate(rows):
         line = [(0, y + 6), (140, y - 2), (300, y - 12), (440, y - 3), (570, y + 4)]
         hill(ink, [(x, at - 7) for x, at in line], slope, 1.4)
         count = 15 - 3 * depth
@@ -105,11 +110,15 @@ def river(ink: Ink) -> None:
 
 
 # The two banks of the river, from far to near and back.
-LEFT_BANK: list[Knot] = [(470, 101), (462, 108), (434, 118), (412, 132), (404, 156), (420, 188), (442, 222), (436, 258), (396, 296), (336, 330), (292, 372), (276, 410)]
+LEFT_BANK: list[Knot] = [(470, 101), (462, 108), (434, 118), (412, 132), (404, 156), (420, 188), (442, 222), (436, 258),
+                         (396, 296), (336, 330), (292, 372), (276, 410)]
 RIGHT_BANK: list[Knot] = [(660, 410), (640, 330), (628, 270), (600, 222), (560, 186), (536, 158), (530, 136), (508, 118), (486, 108), (480, 101)]
 WATER = [(x + 2 + 0.012 * y, y + 2 + 0.02 * y) for x, y in LEFT_BANK] + [(x - 1, y + 2) for x, y in RIGHT_BANK]
 RIPPLES = ((452, 160, 14), (500, 172, 16), (470, 186, 18), (520, 204, 20), (476, 220, 22), (556, 232, 24), (502, 250, 30), (462, 276, 26), (560, 282, 34),
            (436, 306, 34), (520, 320, 42), (380, 340, 30), (474, 350, 38))
+
+REEDS = ((398, 190, 1.0), (404, 184, 0.8), (424, 240, 1.2), (392, 288, 1.3), (384, 296, 1.0), (566, 182, 1.0), (574, 190, 1.2), (326, 328, 1.5),
+         (336, 320, 1.2))
 
 
 def _water(ink: Ink) -> None:
@@ -119,7 +128,7 @@ def _water(ink: Ink) -> None:
     soft(ink, WATER, "#f1f3e0", 1)
     for i, (x, y, half) in enumerate(RIPPLES):
         soft(ink, ellipse(x, y, half, 0.7 + half * 0.04), ("#d3e0d2", "#fffdf4")[i % 2], 0.6, 0.9)
-    for x, y, size in ((398, 190, 1.0), (404, 184, 0.8), (424, 240, 1.2), (392, 288, 1.3), (384, 296, 1.0), (566, 182, 1.0), (574, 190, 1.2), (326, 328, 1.5), (336, 320, 1.2)):
+    for x, y, size in REEDS:
         for lean in (-5, 0, 4):
             ink.raw(f'<path d="M{x} {y}q{number(lean * 0.3 * size)} {number(-9 * size)} {number(lean * size)} {number(-16 * size)}" '
                     f'fill="none" stroke="#d9a257" stroke-width="{number(1.8 * size)}" stroke-linecap="round"/>')
