@@ -54,10 +54,9 @@ bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
 }
 
 bool KeyFilter::TakeRepeat(const QObject* receiver, const QKeyEvent& press) {
-    if (TakesKeys(receiver)) return MovesFocus(press);
-    if (IsArrow(press) && form_.KeyPreview && form_.OnKeyDown) {
-        if (const std::optional<Key> key = reader_.Read(press)) Press(*key);
-    }
+    const std::optional<Key> key = reader_.Read(press);
+    if (Takes(receiver, key)) return MovesFocus(press);
+    if (key && IsArrow(press) && form_.KeyPreview && form_.OnKeyDown) Press(*key);
     return true;
 }
 

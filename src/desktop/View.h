@@ -34,6 +34,7 @@ public:
     virtual void Refresh() = 0;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
+    [[nodiscard]] const Control& Element() const { return element_; }
 
 protected:
     /// Lets the left mouse button click the element, over which the pointer becomes a hand; the form instead, if the

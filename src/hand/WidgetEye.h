@@ -10,7 +10,7 @@ namespace platform::hand {
 class WidgetEye : public headless::Eye {
 public:
     /// Both must outlive the eye.
-    WidgetEye(const Screen& screen, const desktop::WindowDisplay& display) : screen_(screen), display_(display) {}
+    WidgetEye(const Screen& screen, desktop::WindowDisplay& display) : screen_(screen), display_(display) {}
 
     [[nodiscard]] std::optional<headless::Value> Seen(const Control& control, std::string_view property,
                                                       const headless::Value& state) const override;
@@ -21,7 +21,7 @@ public:
 
 private:
     const Screen& screen_;
-    const desktop::WindowDisplay& display_;
+    desktop::WindowDisplay& display_;
 };
 
 }  // namespace platform::hand

@@ -25,23 +25,25 @@ program=$!
 press() { xdotool key --delay 60 "$@"; sleep 0.4; }
 window() { xdotool search --sync --onlyvisible --name "$1" >/dev/null; sleep 0.4; }
 fail() { echo "fallo: $1"; exit 1; }
-# Presses the button that has the focus, accepts the printer dialog, and looks for each text on the page.
+# Presses the button that has the focus, accepts the printer dialog, and looks for each text on the page of this name.
 print_page() {
+    local page=$HOME/$1.pdf
+    shift
     press space
     sleep 1
     press Return
     for text in "$@"; do
         found=
         for _ in 1 2 3 4 5 6 7 8 9 10; do
-            pdftotext "$HOME/print.pdf" - 2>/dev/null | grep -q -- "$text" && found=yes && break
+            pdftotext "$page" - 2>/dev/null | grep -q -- "$text" && found=yes && break
             sleep 0.4
         done
         [ -n "$found" ] || fail "no page with $text"
     done
-    [ "$(pdfinfo "$HOME/print.pdf" | awk '/^Pages/ {print $2}')" = 1 ] || fail "more than one page"
-    pdftoppm -r 30 -png "$HOME/print.pdf" "$HOME/page"
+    [ "$(pdfinfo "$page" | awk '/^Pages/ {print $2}')" = 1 ] || fail "more than one page"
+    pdftoppm -r 30 -png "$page" "$HOME/page"
     [ "$(convert "$HOME"/page*.png -format '%k' info:)" -gt 50 ] || fail "a page without pictures"
-    rm -f "$HOME"/print.pdf "$HOME"/page*.png
+    rm -f "$page" "$HOME"/page*.png
 }
 
 window 'pulsa una tecla'
@@ -57,15 +59,15 @@ press Return
 window 'PREMIO'
 for _ in 1 2 3 4 5 6 7 8 9 10; do press Left Left Left Left Left Left Left Left Left; done
 press Tab
-print_page 'Begoña' 'Castellano' 'IMPRIMIR'
+print_page PREMIO 'Begoña' 'Castellano' 'IMPRIMIR'
 press Escape
 window 'Cuadro de honor'
 press Tab
-print_page 'CUADRO DE HONOR' 'Begoña' '205'
+print_page 'Cuadro de honor' 'CUADRO DE HONOR' 'Begoña' '205'
 sleep 0.5
 press ctrl+u
 window 'ltimas partidas'
 press Tab
-print_page 'FINAL' 'Begoña' 'Castellano'
+print_page 'Últimas partidas (debes acertar al menos 5 palabras para entrar en este cuadro)' 'FINAL' 'Begoña' 'Castellano'
 press ctrl+s
 echo "bien"

@@ -163,7 +163,8 @@ TEST(Factor, IsTheLargestStepAtWhichTheLargestWindowFits) {
         int width, height;
         double factor;
     };
-    for (const Row& row : std::vector<Row>{{1024, 768, 1}, {1600, 1000, 1.5}, {1920, 1280, 2}, {3840, 2160, 3.5}}) {
+    for (const Row& row :
+         std::vector<Row>{{1024, 768, 1.23}, {1366, 768, 1.23}, {1920, 1080, 1.75}, {3840, 2160, 3.58}}) {
         EXPECT_EQ(Scale::For({row.width, row.height}).Factor(), row.factor) << row.width;
     }
     EXPECT_LT(Scale::For({800, 480}).Factor(), 1);

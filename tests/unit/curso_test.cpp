@@ -158,13 +158,13 @@ private:
 
 TEST(Curso, IsWhatItWas) {
     constexpr std::array<std::uint64_t, 32> kCourses = {
-        0xdafd6ad1e9759a0cU, 0x12aab9f20fc1b559U, 0xecc81e13835e0520U, 0xe0c97ef1716af61aU, 0x1affdcaa3c881404U,
-        0x5a19f6d040351a68U, 0xd37cffaa1e3b8812U, 0x5339a652533b4504U, 0x418907a276035b7cU, 0xcfe11cfbc9c6f5b7U,
-        0x3001febd1ee519f8U, 0x1f51d49240c1d7ebU, 0xc1a0956c96a83e18U, 0x671def03c1d71b36U, 0xfeef7284efe64fadU,
-        0xfdf99cb418fc39faU, 0xadc71f4ef747dc8fU, 0xa17ba53523c62d87U, 0xe71f99efa72386dcU, 0xf3ecb4fe1f03a997U,
-        0x17266a61717e6a61U, 0x589659008cd4d3c6U, 0xf76e10c1709ec3b5U, 0xe12350f8ee1d579fU, 0xb5cf8803fb609eeU,
-        0x4ef6beef77f95512U, 0xbc37ccc4af5dfc1dU, 0xa1f57bf9304de935U, 0xc93a3b6ff2a2ccbbU, 0x9420cbf5b002c1ddU,
-        0xeca967ae5de27db8U, 0x70bb8a9c576ec6efU};
+        0x293da24b2c885590U, 0x12aab9f20fc1b559U, 0x884dfbbeb3ad4ff8U, 0x4771de2328f0bc26U, 0x1affdcaa3c881404U,
+        0x5a19f6d040351a68U, 0xd37cffaa1e3b8812U, 0x5339a652533b4504U, 0x21a5a5559749f77cU, 0x1e3bc9d42816ed33U,
+        0x3001febd1ee519f8U, 0x1f51d49240c1d7ebU, 0x6016975ae3ad4e08U, 0xa4cb9b95b26eacaU,  0xfeef7284efe64fadU,
+        0xfdf99cb418fc39faU, 0xadc71f4ef747dc8fU, 0xa17ba53523c62d87U, 0xe71f99efa72386dcU, 0x461bf9eeda20e34bU,
+        0x17266a61717e6a61U, 0x589659008cd4d3c6U, 0xf76e10c1709ec3b5U, 0xe12350f8ee1d579fU, 0xa49877e5a40bba36U,
+        0x4ef6beef77f95512U, 0xbc37ccc4af5dfc1dU, 0xa28f8894f579ee25U, 0xc93a3b6ff2a2ccbbU, 0x9420cbf5b002c1ddU,
+        0xcfab52e268f41784U, 0x70bb8a9c576ec6efU};
     constexpr int kMoves = 2000;
     const char* const wanted = std::getenv("ZARPI_CURSO");
     for (unsigned course = 0; course < kCourses.size(); ++course) {
