@@ -30,7 +30,7 @@ MUSIC_PEAK = -7.5
 IN_CHORD = 0.75          # least share of the melody's strong notes that are notes of the chord
 ENTRY = 4.0              # seconds, the melody has begun by then
 SPAN = (30, 40)          # of the melody's velocities
-BESIDE = (-13, -5)       # LU, percussion beside the melody
+BESIDE = (-14.5, -5)      # LU, percussion beside the melody
 
 SOUND_LUFS = {"Caída": -18, "Comodín": -18, "Prisa": -18, "Conseg": -16, "Diploma": -16, "Extra": -16, "Pal16": -16, "Pleno": -16,
               "Zar200": -16, "Teclado": -22}

@@ -14,7 +14,7 @@ from itertools import groupby
 from pathlib import Path
 
 import score
-from score import BASS, EXPRESSION, MELODY, PERCUSSION, SECOND, TICKS, VOICES, VOLUME, Note
+from score import BASS, EXPRESSION, MELODY, PERCUSSION, ROOM, SECOND, TICKS, VOICES, VOLUME, Note
 
 PHRASE, PERIOD = 4, 8            # bars
 
@@ -26,6 +26,7 @@ PERCUSSION_GAIN = 1.5            # of the velocities as written, 7 dB
 LOOSE = 0.006                    # seconds, how far a note may be from its place
 EARLY = 16                       # ticks, at any tempo here more than that
 RING = 2.5                       # seconds after the last note
+ROOM_SHARE = {BASS: 60, PERCUSSION: 80}    # of what sounds in the room; all others more
 LOWEST = 55                      # no chord reaches below G3
 HIGHEST = 77
 
@@ -185,7 +186,8 @@ class Performer:
                 swell = -2.2 * place if last else math.sin(math.pi * place ** 0.8)
                 out.append((tick, EXPRESSION, round(REST_EXPRESSION + depth * (28 * swell - 8))))
         kept = [e for before, e in zip([None] + out, out) if before is None or before[2] != e[2]]
-        self.midi.controls[channel] = sorted(self.midi.controls[channel] + kept)
+        room = [(0, ROOM, ROOM_SHARE.get(channel, 110))]
+        self.midi.controls[channel] = sorted(self.midi.controls[channel] + room + kept)
 
     # ---- percussion ----
 

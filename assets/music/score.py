@@ -10,7 +10,7 @@ TICKS = 480              # per quarter note, as abc2midi writes
 MELODY, SECOND, BASS, THIRD, FOURTH, PERCUSSION = 11, 12, 13, 14, 15, 10
 VOICES = (MELODY, SECOND, THIRD, FOURTH)
 
-VOLUME, PAN, EXPRESSION = 7, 10, 11
+VOLUME, EXPRESSION, ROOM = 7, 11, 91    # controls
 
 LETTERS = "CDEFGAB"
 NATURAL = {"C": 0, "D": 2, "E": 4, "F": 5, "G": 7, "A": 9, "B": 11}
