@@ -106,27 +106,6 @@ TEST(Registros, AcceptAnyBytes) {
     EXPECT_EQ(Trim(row.Nombre), u"");
 }
 
-FilaHonor RowWith(const Text& points) {
-    FilaHonor row;
-    row.puntos = points;
-    return row;
-}
-
-TEST(ArchivoRegistros, OpensAndClosesPlaces) {
-    const Carpeta folder;
-    FolderFiles files;
-    ArchivoRegistros<FilaHonor> rows(files, ArchivosHonor[0]);
-    for (int k = 1; k <= 3; ++k) ASSERT_TRUE(rows.Escribir(k, RowWith(SignedDecimal(k))));
-    ASSERT_TRUE(rows.AbrirHueco(2, 3));
-    ASSERT_TRUE(rows.Escribir(2, RowWith(u" 9")));
-    for (const auto& [k, points] : {std::pair(1, 1), {2, 9}, {3, 2}, {4, 3}, {5, 0}}) {
-        EXPECT_EQ(NúmeroDeCampo(rows.Leer(k)->puntos), points) << k;
-    }
-    ASSERT_TRUE(rows.CerrarHueco(1, 4));
-    EXPECT_EQ(NúmeroDeCampo(rows.Leer(1)->puntos), 9);
-    EXPECT_EQ(files.Read("CeI.rnd")->size(), 4 * FilaHonor::Largo);
-}
-
 TEST(Texto, MapsEveryCodeOfThePageBothWays) {
     for (int code = 0; code < 256; ++code) {
         const char16_t c = platform::FromWindows1252(static_cast<unsigned char>(code));

@@ -1,21 +1,18 @@
 // Nothing is lost: the program is stopped at each single file operation of every change, or its disk fails there, once,
 // twice or for a while; what is found afterwards is what the player was told.
 
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "Carpeta.h"
-#include "game/Modos.h"
-#include "headless/Headless.h"
 #include "headless/MemoryFiles.h"
 #include "records/CuadrosDeHonor.h"
+#include "records/PartidasGuardadas.h"
 #include "records/UltimasPartidas.h"
-#include "shell/Juego.h"
 
 namespace juego {
 namespace {
 
-using platform::headless::Ended;
-using platform::headless::Headless;
 using platform::headless::MemoryFiles;
 
 /// Files on a disk whose faults come and go, under a program that can be stopped.
@@ -91,12 +88,7 @@ FilaHonor Row(const Text& name, int points) {
 
 PartidaGuardada Game(const Text& name) {
     PartidaGuardada game;
-    game.NúmPalabra = 5;
-    game.Modo = 1;
-    game.Tiempo = 60;
-    game.Aleator = 4;
     game.Nombre = name;
-    game.Contraseña = u"x";
     return game;
 }
 
@@ -106,168 +98,21 @@ FilaÚltima Last(const Text& word) {
     return row;
 }
 
-/// Three saved games, three last games and a board.
-void Fill(Files& files, int boardRows) {
+/// Three saved games, three last games and a board of three.
+void Fill(Files& files) {
     EstrenarCarpeta(files);
-    EscribirContador(files, ArchivoGuardadas, kRows);
-    EscribirContador(files, ArchivoÚltimas, kRows);
-    EscribirContador(files, ArchivosHonor[0], boardRows);
-    for (int k = 1; k <= std::max(kRows, boardRows); ++k) {
+    for (const Par& pair : {ArchivoGuardadas, ArchivoÚltimas, ArchivosHonor[0]}) EscribirContador(files, pair, kRows);
+    for (int k = 1; k <= kRows; ++k) {
         const Text name = u"Fila " + Decimal(k);
         ArchivoRegistros<FilaHonor>(files, ArchivosHonor[0]).Escribir(k, Row(name, 100 - k));
-        if (k > kRows) continue;
         ArchivoRegistros<PartidaGuardada>(files, ArchivoGuardadas).Escribir(k, Game(name));
         ArchivoRegistros<FilaÚltima>(files, ArchivoÚltimas).Escribir(k, Last(SignedDecimal(k + 5)));
     }
 }
 
-/// A program in the middle of its life.
-struct Programa {
-    explicit Programa(BrittleFiles& files) : files(files), headless(files) {}
-
-    /// Lets `moves` run while the program waits for the player, after it has come up; true unless it was stopped.
-    bool Run(std::vector<std::function<void()>> moves) {
-        std::size_t next = 0;
-        headless.SetPlayer([&moves, &next] {
-            if (next == moves.size()) return false;
-            moves[next++]();
-            return true;
-        });
-        try {
-            juego.Start();
-            headless.screen.Press(KeyOf(u'a'));
-            while (next < moves.size()) moves[next++]();
-            return true;
-        } catch (const Ended&) {
-            return false;
-        }
-    }
-    Form& Window(std::string_view name) {
-        for (Form* form : juego.Ventanas()) {
-            if (form->Name == name) return *form;
-        }
-        return z;
-    }
-    void Click(std::string_view form, std::string_view control) { headless.screen.Click(*Window(form).Find(control)); }
-    void Type(std::string_view form, std::string_view control, TextView text) {
-        headless.screen.Type(static_cast<TextBox&>(*Window(form).Find(control)), text);
-    }
-
-    BrittleFiles& files;
-    Headless headless;
-    Juego juego{headless.Services()};
-    Zarpi& z = static_cast<Zarpi&>(*juego.Ventanas().front());
-};
-
-using Moves = std::vector<std::function<void()>>;
-
-/// The five changes, each as the moves that lead to it.
-struct Cambio {
-    const char* name;
-    friend std::ostream& operator<<(std::ostream& out, const Cambio& change) { return out << change.name; }
-
-    int boardRows;
-    Moves (*moves)(Programa&);
-};
-
-Moves Resume(Programa& p) {
-    return {[&p] { p.Click("Zarpi", "mnuReanudar"); }, [&p] { p.Type("frmReanudar", "txtContraseña", u"x"); },
-            [&p] { p.Click("frmReanudar", "cmdReanudar"); }};
-}
-Moves Save(Programa& p) {
-    Moves moves = Resume(p);
-    moves.insert(moves.end(),
-                 {[&p] { p.Click("Zarpi", "mnuGuardar"); }, [&p] { p.Type("frmGuardar", "txtContraseña", u"y"); },
-                  [&p] { p.Type("frmGuardar", "txtContrarep", u"y"); }, [&p] { p.Click("frmGuardar", "cmdGuardar"); }});
-    return moves;
-}
-Moves Lose(Programa& p) {
-    return {[&p] { p.Click("Zarpi", "mnuNuevo"); }, [&p] { p.headless.screen.Close(*p.headless.screen.Front()); },
-            [&p] {
-                p.z.NúmPalabra = 8;
-                p.headless.screen.Close(*p.headless.screen.Front());
-            },
-            [&p] {
-                p.z.Letra = u"Q";
-                p.z.Tiempo = 1;
-                p.headless.Wait(Moment(61000));
-            }};
-}
-Moves Win(Programa& p) {
-    return {[&p] {
-                p.z.NúmPalabra = 31;
-                p.z.puntos = 98;
-                p.headless.screen.ShowModal(p.Window("frmFecha"));
-            },
-            [&p] { p.headless.screen.Close(*p.headless.screen.Front()); },
-            [&p] { p.headless.screen.Close(*p.headless.screen.Front()); },
-            [&p] { p.headless.screen.Close(*p.headless.screen.Front()); }};
-}
-Moves Reset(Programa& p) {
-    return {[&p] { p.Click("Zarpi", "mnuCasteInglésHonor"); }, [&p] { p.Click("frmCuadro", "cmdRestablecer"); }};
-}
-
-constexpr std::array<Cambio, 5> kChanges = {
-    {{"resume", 3, Resume}, {"save", 3, Save}, {"last games", 3, Lose}, {"board", 9, Win}, {"reset", 10, Reset}}};
-
-class Interrupción : public testing::TestWithParam<Cambio> {};
-
-TEST_P(Interrupción, LeavesTheOldStateOrTheNew) {
-    const Cambio& change = GetParam();
-    // The states that a player may find: before, after, and between the two changes of a resume and a save.
-    std::vector<std::string> whole;
-    BrittleFiles filled;
-    Fill(filled.inner, change.boardRows);
-    int operations = 0;
-    {
-        BrittleFiles files = filled;
-        Programa program(files);
-        whole.push_back(SeenAll(files.inner));
-        files.plan = [](int) { return Fault::None; };
-        Moves moves = change.moves(program);
-        for (auto& move : moves) {
-            move = [&whole, &files, inner = move] {
-                inner();
-                whole.push_back(SeenAll(files.inner));
-            };
-        }
-        ASSERT_TRUE(program.Run(moves));
-        operations = files.operations;
-    }
-    ASSERT_GE(operations, 2);
-    ASSERT_NE(whole.front(), whole.back());
-    for (int n = 0; n < operations; ++n) {
-        for (const auto& plan : std::initializer_list<BrittleFiles::Plan>{
-                 [n](int operation) { return operation == n ? Fault::Stops : Fault::None; },
-                 [n](int operation) { return operation == n ? Fault::Fails : Fault::None; },
-                 [n](int operation) { return operation >= n ? Fault::Fails : Fault::None; }}) {
-            BrittleFiles files = filled;
-            bool told = false;
-            {
-                Programa program(files);
-                files.plan = plan;
-                program.Run(change.moves(program));
-                told = program.z.fSalirError && program.z.lblMensajeError.Visible;
-            }
-            files.Restart();
-            files.plan = nullptr;
-            Headless headless(files);
-            Juego again(headless.Services());
-            again.Start();
-            const std::string found = SeenAll(files);
-            EXPECT_NE(std::ranges::find(whole, found), whole.end()) << "after operation " << n;
-            EXPECT_TRUE(told || found == whole.back()) << "after operation " << n;
-            EXPECT_FALSE(files.Exists("Diario.tmp")) << n;
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(, Interrupción, testing::ValuesIn(kChanges),
-                         [](const auto& info) { return "Change" + std::to_string(info.index); });
-
-/// The same changes without their windows; true when they say that they are done.
-using CambioDeArchivos = bool (*)(Files&);
-constexpr std::array<CambioDeArchivos, 5> kFileChanges = {
+/// The changes of the stored files; true when they say that they are done.
+using Cambio = bool (*)(Files&);
+constexpr std::array<Cambio, 5> kCambios = {
     [](Files& files) {
         const auto count = ContarParaCambiar(files, ArchivoGuardadas);
         return count && GuardarPartida(files, *count, Game(u"Nueva"));
@@ -283,8 +128,7 @@ constexpr std::array<CambioDeArchivos, 5> kFileChanges = {
 /// Two changes, one after the other.
 class Historia {
 public:
-    Historia(const BrittleFiles& before, CambioDeArchivos first, CambioDeArchivos second)
-        : before_(before), changes_{first, second} {
+    Historia(const BrittleFiles& before, Cambio first, Cambio second) : before_(before), changes_{first, second} {
         for (unsigned made = 0; made < whole_.size(); ++made) {
             MemoryFiles files = before_.inner;
             for (unsigned k = 0; k < changes_.size(); ++k) {
@@ -321,16 +165,16 @@ public:
 
 private:
     const BrittleFiles& before_;
-    std::array<CambioDeArchivos, 2> changes_;
+    std::array<Cambio, 2> changes_;
     std::array<std::string, 4> whole_;  ///< what is there, by the changes that were made
     int operations_ = 0;
 };
 
 TEST(Diario, LosesNothingToFaultsThatComeAndGo) {
     BrittleFiles filled;
-    Fill(filled.inner, kRows);
-    for (const CambioDeArchivos first : kFileChanges) {
-        for (const CambioDeArchivos second : kFileChanges) {
+    Fill(filled.inner);
+    for (const Cambio first : kCambios) {
+        for (const Cambio second : kCambios) {
             Historia history(filled, first, second);
             ASSERT_EQ(history.Lost([](int) { return Fault::None; }), "");
             const int last = history.Operations() + 12;  // what a recovery adds
@@ -353,7 +197,7 @@ TEST(Diario, LosesNothingToFaultsThatComeAndGo) {
 
 TEST(Diario, OnAFullDiskAChangeThatFailsLeavesNothingBehind) {
     BrittleFiles files;
-    Fill(files.inner, kRows);
+    Fill(files.inner);
     const std::string before = SeenAll(files);
     files.full = true;
     EXPECT_EQ(AnotarPartida(files, Last(u"FINAL")), std::nullopt);
@@ -364,18 +208,18 @@ TEST(Diario, OnAFullDiskAChangeThatFailsLeavesNothingBehind) {
 TEST(Diario, NothingIsChangedWhileOneWaits) {
     const Carpeta folder;
     platform::headless::FolderFiles files;
-    Fill(files, kRows);
+    Fill(files);
     const std::string before = SeenAll(files);
     std::filesystem::create_directory("CoI.rnd");  // in the way of its restoration
     const std::string journal = "CoI.rnd 0\nUltCoI.dat 5\n 0 \r\n";
     ASSERT_TRUE(files.Replace("Diario.tmp", journal));
-    for (const CambioDeArchivos change : kFileChanges) EXPECT_FALSE(change(files));
+    for (const Cambio change : kCambios) EXPECT_FALSE(change(files));
     EXPECT_FALSE(GuardarPartida(files, kRows, Game(u"Nueva")));
     EXPECT_FALSE(LeerPartida(files, 1)) << "it may be another game's record";
     EXPECT_EQ(SeenAll(files), before);
     EXPECT_EQ(files.Read("Diario.tmp"), journal);
     std::filesystem::remove("CoI.rnd");
-    for (const CambioDeArchivos change : kFileChanges) EXPECT_TRUE(change(files));
+    for (const Cambio change : kCambios) EXPECT_TRUE(change(files));
 }
 
 TEST(Diario, IsNotTrusted) {
@@ -384,7 +228,7 @@ TEST(Diario, IsNotTrusted) {
     const std::string good = "CeI.rnd 42\n" + row;
     const auto pair = ArchivosHonor[0];
     MemoryFiles files;
-    Fill(files, kRows);
+    Fill(files);
     const std::string before = SeenAll(files);
     files.Replace("Zarpi1.bmp", "art");
     int aside = 0;
