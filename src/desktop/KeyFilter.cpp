@@ -3,15 +3,20 @@
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <string_view>
 
 namespace platform::desktop {
 
 namespace {
 
-/// A text box takes all keys; a list those that move its selection, and no letter to look for a line.
+/// A text box takes all keys but the control letters that no player knows to delete his text; a list those that move
+/// its selection, and no letter to look for a line.
 bool Takes(const QObject* receiver, const std::optional<Key>& key) {
+    constexpr std::string_view kEditing = "ACVXZ";
     if (dynamic_cast<const QListWidget*>(receiver) != nullptr) return key && key->Character == 0;
-    return dynamic_cast<const QLineEdit*>(receiver) != nullptr;
+    if (dynamic_cast<const QLineEdit*>(receiver) == nullptr) return false;
+    const bool controls = key && key->Control && key->Character != 0;
+    return !controls || kEditing.find(static_cast<char>(key->Code)) != std::string_view::npos;
 }
 
 bool IsArrow(const QKeyEvent& press) {
