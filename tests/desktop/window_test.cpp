@@ -1,12 +1,8 @@
-#include <QAction>
 #include <QClipboard>
 #include <QFile>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPrinter>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -26,32 +22,17 @@ struct Window : testing::Test {
     Sample form;
 };
 
-TEST_F(Window, ShowsTheStateOfItsElements) {
-    EXPECT_EQ(rig.display.WindowOf(form)->windowTitle(), "Muestra");
-    EXPECT_EQ(rig.Widget(form).size(), QSize(400, 300));
-    EXPECT_EQ(rig.Widget<QLabel>(form, "lblFront").textFormat(), Qt::PlainText);
-    EXPECT_EQ(rig.Widget<QPushButton>(form, "cmdPlain").text(), "A && B");
+TEST_F(Window, PaintsItsElementsInTheirLayers) {
     EXPECT_EQ(Pixel(12, 12), 0x00FF00U);  // lblFront over lblBack
     EXPECT_EQ(Pixel(40, 230), 0xFF0000U);
     EXPECT_EQ(Pixel(100, 230), 0U);
 
     form.ZOrder(form.lblBack);
     form.shpPlate.Left = 3000;
-    form.cmdPlain.Enabled = false;
-    form.lstGames.List = {u"una", u"dos"};
-    form.lstGames.ListIndex = 1;
-    form.Caption = u"Otra";
-    form.Height = 5250;
-    form.mnuSave.Enabled = true;
     rig.display.Refresh();
     EXPECT_EQ(Pixel(12, 12), 0x0000FFU);
     EXPECT_EQ(Pixel(40, 230), 0xFFFFFFU);
     EXPECT_EQ(Pixel(230, 230), 0xFF0000U);
-    EXPECT_FALSE(rig.Widget(form, "cmdPlain").isEnabled());
-    EXPECT_EQ(rig.Widget<QListWidget>(form, "lstGames").currentRow(), 1);
-    EXPECT_EQ(rig.display.WindowOf(form)->windowTitle(), "Otra");
-    EXPECT_EQ(rig.Widget(form).height(), 350);
-    EXPECT_TRUE(rig.Widget<QAction>(form, "mnuSave").isEnabled());
 }
 
 TEST_F(Window, PaintsNothingWhileNothingChanges) {
@@ -93,15 +74,6 @@ TEST_F(Window, ClicksGoToTheElementOrElseToTheForm) {
     EXPECT_EQ(clicked, "eff");
 }
 
-TEST_F(Window, ACheckMarkIsTheProgramsAlone) {
-    QAction& sound = rig.Widget<QAction>(form, "mnuSound");
-    sound.trigger();
-    EXPECT_TRUE(sound.isChecked());
-    form.mnuSound.Click = [this] { form.mnuSound.Checked = !form.mnuSound.Checked; };
-    sound.trigger();
-    EXPECT_FALSE(sound.isChecked());
-}
-
 TEST_F(Window, ATextBoxTakesWhatItsFieldHolds) {
     auto& edit = rig.Widget<QLineEdit>(form, "txtName");
     const auto paste = [&edit](const char* text) {
@@ -120,25 +92,6 @@ TEST_F(Window, ATextBoxTakesWhatItsFieldHolds) {
     rig.display.Refresh();
     EXPECT_EQ(edit.text(), "otra");
     EXPECT_EQ(rig.Widget(form).window()->focusWidget(), &edit);
-}
-
-TEST_F(Window, TimersFireBehindAModalFormAndInputDoesNot) {
-    Sample dialog("Dialog");
-    int closings = 0;
-    Refusal behind = Refusal::None;
-    dialog.OnQueryUnload = [&closings] { ++closings; };
-    form.tmrSoon.Click = [&] {
-        form.tmrSoon.Stop();
-        behind = rig.screen.Click(form.lblFront);
-        EXPECT_EQ(rig.display.WindowOf(dialog)->windowModality(), Qt::WindowModal);
-        rig.display.WindowOf(dialog)->close();
-    };
-    form.tmrSoon.Start();
-    rig.screen.ShowModal(dialog);
-    EXPECT_EQ(closings, 1);
-    EXPECT_EQ(behind, Refusal::Blocked);
-    EXPECT_EQ(rig.display.WindowOf(dialog), nullptr);
-    EXPECT_EQ(rig.scheduler.NextDue(), std::nullopt);
 }
 
 TEST_F(Window, PrintsTextsAsTexts) {

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "game/Modos.h"
 #include "game/Teclas.h"
 #include "words/Tablas.h"
 
@@ -32,30 +31,6 @@ TEST(Teclas, HaveEveryLetterOnce) {
     }
     EXPECT_EQ(letters.size(), 27U);
     EXPECT_EQ(ÍndiceDeLetra(u'Á'), 0);
-}
-
-TEST(Niveles, FollowTheWordNumber) {
-    struct Case {
-        int word;
-        bool ten;
-        int level;
-        LetrasDadas given;
-        bool first;
-    };
-    for (const auto& c : {Case{1, false, 1, LetrasDadas::PrimeraYÚltima, true},
-                          {5, false, 1, LetrasDadas::PrimeraYÚltima, false},
-                          {6, false, 2, LetrasDadas::Primera, true},
-                          {15, false, 3, LetrasDadas::Ninguna, false},
-                          {16, false, 4, LetrasDadas::PrimeraYÚltima, true},
-                          {30, false, 6, LetrasDadas::Ninguna, false},
-                          {10, true, 1, LetrasDadas::PrimeraYÚltima, false},
-                          {11, true, 2, LetrasDadas::Primera, true},
-                          {30, true, 3, LetrasDadas::Ninguna, false}}) {
-        const Nivel level = NivelDePalabra(c.word, c.ten);
-        EXPECT_EQ(level.Número, c.level) << c.word;
-        EXPECT_EQ(level.Dadas, c.given) << c.word;
-        EXPECT_EQ(level.EsPrimera, c.first) << c.word;
-    }
 }
 
 TEST(Tablas, HoldTheirWordsAtTheirPlaces) {
