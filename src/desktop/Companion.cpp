@@ -30,9 +30,9 @@ int Difference(const QImage& one, const QImage& other, const QRect& block) {
 
 bool BelongTogether(const QImage& picture, const QImage& large) {
     const QSize size = picture.size();
-    if (size.isEmpty() || large.width() % size.width() != 0 || large.size() != size * (large.width() / size.width())) {
-        return false;
-    }
+    if (size.isEmpty()) return false;
+    const int times = large.width() / size.width();
+    if (large.size() != size * times) return false;
     constexpr auto kFormat = QImage::Format_RGB32;
     const QImage one = picture.convertToFormat(kFormat);
     const QImage other = large.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(kFormat);

@@ -173,7 +173,7 @@ std::string WidgetEye::Forms() const {
     std::ranges::sort(names, {}, place);
     const QWidget* const active = QApplication::activeWindow();
     const std::string front = active == nullptr ? "" : active->objectName().toStdString();
-    std::ranges::stable_partition(names, [&front](const std::string& name) { return name != front; });
+    std::stable_partition(names.begin(), names.end(), [&front](const std::string& name) { return name != front; });
     std::string list;
     for (const std::string& name : names) list += (list.empty() ? "" : " ") + name;
     return list.empty() ? "none" : list;
