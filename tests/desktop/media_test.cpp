@@ -49,7 +49,6 @@ struct Sound : testing::Test {
         QDir::setCurrent(folder.path());
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", folder.filePath("out.raw").toUtf8());
-        qputenv("SDL_SOUNDFONTS", "none");
         Save("Caída.wav", Wave(kLoud, 1));
         Save("Pleno.wav", Wave(0, 1));
         Save("Musica01.mid", Wave(kLoud, 10));
@@ -143,7 +142,7 @@ TEST_F(Sound, MusicGoesBackWhileWhatIsHeardOverItSounds) {
 }
 
 TEST_F(Sound, ARenditionIsHeardInPlaceOfTheVeryNotesItWasMadeFrom) {
-    const QByteArray notes = "MThd";  // nothing to be heard in them
+    const QByteArray notes = "MThd";
     const auto digest = QCryptographicHash::hash(notes, QCryptographicHash::Sha1).toHex();
     Save("Musica01.mid", notes);
     Save("Musica01.ogg", Wave(kLoud, 10, "source=sha1:" + digest));
@@ -152,11 +151,9 @@ TEST_F(Sound, ARenditionIsHeardInPlaceOfTheVeryNotesItWasMadeFrom) {
     EXPECT_TRUE(Sounds());
     player.Command(music, MediaCommand::Close);
     QTest::qWait(300);
-    Save("Musica01.mid", notes + " a piece of the player's own");
-    Heard();
+    Save("Musica01.mid", Wave(kLoud / 4, 10));  // a piece of the player's own
     PlaySound(player, music, u"Musica01.mid");
-    QTest::qWait(300);
-    EXPECT_LT(Peak(), kHeard);
+    EXPECT_TRUE(QTest::qWaitFor([] { return std::abs(Peak() - kLoud / 4) < 200; }, 10'000));
 }
 
 TEST_F(Sound, WithoutADeviceNothingWaits) {
