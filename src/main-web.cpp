@@ -49,3 +49,11 @@ __attribute__((export_name("run"))) void zarpi_run() {
     browser.Run();
 }
 }
+
+// What the library finds broken stops the program, without the texts and streams that would tell it.
+[[noreturn]] void std::__libcpp_verbose_abort(char const* /*format*/, ...) {
+    __builtin_trap();
+}
+extern "C" [[noreturn]] void abort_message(char const* /*format*/, ...) {
+    __builtin_trap();
+}

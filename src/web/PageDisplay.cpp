@@ -139,8 +139,8 @@ void PageDisplay::TellChanges() {
 }
 
 void PageDisplay::TellChanges(const Form& form, Window& window) {
-    TellState(window, {}, StateOf(form));
     for (const Menu* menu : form.Menus()) TellState(window, menu->FullName(), StateOf(*menu));
+    TellState(window, {}, StateOf(form));
     for (const Control* control : form.Controls()) {
         if (IsSeen(*control)) TellState(window, control->FullName(), StateOf(*control));
     }
