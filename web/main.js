@@ -17,6 +17,7 @@ const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
 
 class Page {
   #windows = new Map();
+  #keyboard = false; // to be opened when the main window is in front
 
   constructor(storage, assets) {
     this.sound = new Sound(assets.sounds);
@@ -31,7 +32,7 @@ class Page {
   listen() {
     addEventListener("keydown", (event) => this.#key(event));
     addEventListener("resize", () => this.#resize());
-    for (const deed of ["pointerdown", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
+    for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
     const help = document.getElementById("help");
     help.addEventListener("click", async () => {
       await showHelp(this.storage);
@@ -42,6 +43,7 @@ class Page {
   #show(message) {
     for (const object of message) this.#deeds[object.do]?.(object);
     if (this.front && !this.front.hasFocus && !document.querySelector("dialog.message")) this.front.takeFocus();
+    this.#openKeyboard();
   }
 
   #deeds = {
@@ -56,7 +58,7 @@ class Page {
       const window = this.#windows.get(state.form);
       const before = window.stateOf(state.name);
       window.showElement(state);
-      this.#offerKeyboard(window, state, before);
+      this.#noteKeyboard(window, state, before);
     },
     layers: ({ form, names }) => this.#windows.get(form).showLayers(names),
     focus: ({ form, name }) => this.#windows.get(form).showFocus(name),
@@ -93,11 +95,17 @@ class Page {
   }
 
   /** Where there is no keyboard, the one on the screen opens by itself as soon as the program offers it. */
-  #offerKeyboard(window, state, before) {
+  #noteKeyboard(window, state, before) {
     if (state.name !== "cmdMostrar" || !FINGERS.matches) return;
     const offered = (told) => told !== undefined && told.visible && told.enabled;
-    if (!offered(state) || offered(before) || window.stateOf("cmdOcultar")?.visible) return;
-    setTimeout(() => this.loop.send("click", state.form, state.name));
+    this.#keyboard = offered(state) && (this.#keyboard || (!offered(before) && !window.stateOf("cmdOcultar")?.visible));
+  }
+
+  #openKeyboard() {
+    if (!this.#keyboard || this.front?.stateOf("cmdMostrar") === undefined) return;
+    this.#keyboard = false;
+    const { name } = this.front;
+    setTimeout(() => this.loop.send("click", name, "cmdMostrar"));
   }
 
   #resize() {

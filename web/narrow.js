@@ -6,8 +6,8 @@ const STAGE = { width: 9060, height: 8300 };
 const STRIP_HEIGHT = 2000;
 const COLUMNS = 7;
 const ROWS = 4;
-const KEY_HEIGHT = 47; // pixels
-const GAP = 2;
+const KEY_HEIGHTS = [47, 64]; // pixels, the least and the most
+const GAP = 45;
 const KEYS = "BCDFGHJKLMNÑPQRSTVWXYZAEIOU"; // by their index, from 1
 const ORDER = "ABCDEFGHIJKLMNÑOPQRSTUVWXYZ";
 
@@ -26,17 +26,19 @@ export function isNarrow(form) {
   return form === FORM && innerWidth < 640 && innerWidth < innerHeight;
 }
 
-/** The length of a twip in pixels, and the size of the client area in twips, for a screen of `width` by `height`. */
+/** The length of a twip in pixels, and in twips the size of the client area and the height of a key, for a screen of `width` by `height`. */
 export function narrowSize(width, height) {
-  const keys = ROWS * KEY_HEIGHT;
-  const twip = Math.min(width / STAGE.width, (height - keys) / (STAGE.height + STRIP_HEIGHT));
-  return { twip, width: STAGE.width, height: STAGE.height + STRIP_HEIGHT + keys / twip };
+  const above = STAGE.height + STRIP_HEIGHT;
+  const [least, most] = KEY_HEIGHTS;
+  const twip = Math.min(width / STAGE.width, (height - ROWS * least) / above);
+  const keyHeight = Math.min(most, (height - above * twip) / ROWS) / twip;
+  return { twip, width: STAGE.width, height: above + ROWS * keyHeight, keyHeight };
 }
 
 /** The state of an element with the place that it has here. */
-export function narrowState(state, twip) {
+export function narrowState(state, { twip, keyHeight }) {
   const index = Number(state.name.match(/^(?:lbl|shp)Tecla\((\d+)\)$/)?.[1] ?? 0);
-  if (index > 0) return keyState(state, index, twip);
+  if (index > 0) return keyState(state, index, innerWidth / twip, keyHeight);
   if (state.name === "lblTeclado" || state.name === "linTeclado") return { ...state, visible: false };
   const group = GROUPS.find(({ names }) => names.test(state.name));
   if (group === undefined) return state;
@@ -51,17 +53,15 @@ export function narrowState(state, twip) {
   };
 }
 
-function keyState(state, index, twip) {
+function keyState(state, index, screen, height) {
   const place = ORDER.indexOf(KEYS[index - 1]);
-  const width = innerWidth / twip / COLUMNS;
-  const height = KEY_HEIGHT / twip;
-  const gap = GAP / twip;
+  const width = screen / COLUMNS;
   return {
     ...state,
-    left: (place % COLUMNS) * width + gap / 2 - (innerWidth / twip - STAGE.width) / 2,
-    top: STAGE.height + STRIP_HEIGHT + Math.floor(place / COLUMNS) * height + gap / 2,
-    width: width - gap,
-    height: height - gap,
+    left: (place % COLUMNS) * width + GAP / 2 - (screen - STAGE.width) / 2,
+    top: STAGE.height + STRIP_HEIGHT + Math.floor(place / COLUMNS) * height + GAP / 2,
+    width: width - GAP,
+    height: height - GAP,
     size: state.size * 1.4,
   };
 }

@@ -17,7 +17,7 @@ function make(tag, className, parent) {
 
 export class Window {
   #elements = new Map();
-  #twip = DESIGN_TWIP;
+  #scale = { twip: DESIGN_TWIP };
   #form = null;
   #focused = "";
 
@@ -114,13 +114,13 @@ export class Window {
     return [...this.#elements.values()];
   }
 
-  /** The largest size at which the window fits the page. A dialog is as large as the main window, or readable. */
+  /** All windows grow with the page as the main one does, but none is made smaller than it was designed if it fits. */
   resize() {
     if (this.#form === null) return;
     const bar = this.menus?.node ?? this.title.parentElement;
     const room = { width: innerWidth, height: innerHeight - bar.offsetHeight };
-    const { twip, width, height } = this.#sizeFor(room);
-    this.#twip = twip;
+    this.#scale = this.#sizeFor(room);
+    const { twip, width, height } = this.#scale;
     this.node.style.setProperty("--twip", `${twip}px`);
     this.client.style.width = twips(width);
     this.client.style.height = twips(height);
@@ -134,7 +134,7 @@ export class Window {
   }
 
   get twip() {
-    return this.#twip;
+    return this.#scale.twip;
   }
 
   #sizeFor(room) {
@@ -144,14 +144,13 @@ export class Window {
     if (this.isNarrow) return narrowSize(room.width, room.height);
     const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
     const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
-    const twip = this.modal ? Math.min(fit, Math.max(common, DESIGN_TWIP)) : Math.min(fit, common);
-    return { twip, width: form.width, height: form.height };
+    return { twip: Math.min(fit, Math.max(common, DESIGN_TWIP)), width: form.width, height: form.height };
   }
 
   #place(element, state) {
     element.told = state;
-    const placed = this.isNarrow ? narrowState(state, this.#twip) : state;
-    element.show(placed, this.#twip);
+    const placed = this.isNarrow ? narrowState(state, this.#scale) : state;
+    element.show(placed, this.twip);
     element.node.dataset.clicks = String(state.clicks);
     if (state.kind === "TextBox" || state.kind === "ListBox") this.#nameField(element);
   }
@@ -169,7 +168,7 @@ export class Window {
   #showGround() {
     const picture = pictureNamed(this.#form.background);
     if (!picture) return;
-    const file = fileOf(picture, this.#twip);
+    const file = fileOf(picture, this.twip);
     load(file).then(() => (this.client.style.backgroundImage = `url("${file}")`));
   }
 
