@@ -43,7 +43,13 @@ Moment Now() {
 }
 
 void PageDisplay::Add(const std::string& object) {
-    message_.append(message_.empty() ? "[" : ",").append(object);
+    message_.append(message_.empty() ? "" : ",").append(object);
+}
+
+void PageDisplay::Send() {
+    const std::string list = "[" + message_ + "]";
+    page_tell(list.data(), list.size());
+    message_.clear();
 }
 
 void PageDisplay::Tell(std::string object) {
@@ -63,8 +69,7 @@ void PageDisplay::Closed(Form& form) {
 
 void PageDisplay::End() {
     TellChanges();
-    message_ += ']';
-    page_tell(message_.data(), message_.size());
+    Send();
     page_end();
 }
 
@@ -83,9 +88,7 @@ bool PageDisplay::WaitForAnswer() {
 Event PageDisplay::NextEvent() {
     TellChanges();
     TellWake();
-    message_ += ']';
-    page_tell(message_.data(), message_.size());
-    message_.clear();
+    Send();
     std::array<char, kLongestEvent> buffer{};
     return Parts({buffer.data(), page_next_event(buffer.data(), buffer.size())});
 }

@@ -54,11 +54,12 @@ private:
     void TellWake();
     void TellState(Window& window, const std::string& name, std::string state);
     void Add(const std::string& object);
+    void Send();
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;
     std::map<const Form*, Window> windows_;
-    std::string message_;
+    std::string message_;  // objects, divided by commas
 };
 
 /// Milliseconds since the page was opened.
