@@ -45,6 +45,7 @@ __attribute__((export_name("run"))) void zarpi_run() {
     platform::web::Browser browser;
     Furnish(browser.Services().Files);
     juego::Juego juego(browser.Services());
+    browser.OnUnsaved([&juego] { juego.AvisarError(); });
     juego.Start();
     browser.Run();
 }

@@ -10,6 +10,7 @@ const KEYS = [
   ["F10, o Alt y la letra subrayada", "abre los menús; dentro, flechas, Intro y Esc"],
   ["F1 a F5", "el tiempo por palabra"],
   ["Tab", "va por los botones y los menús"],
+  ["Las flechas en una pantalla táctil", "arrastra el dedo hacia un lado"],
 ];
 
 function make(tag, text, parent) {

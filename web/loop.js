@@ -1,5 +1,8 @@
 // The road of an event: into the program, what it wrote into the storage, what it changed onto the page.
 
+/** Events behind which there is no player: they do not try again to store what could not be stored. */
+const OWN_EVENTS = ["tick", "unsaved"];
+
 export class Loop {
   #program;
   #storage;
@@ -9,6 +12,7 @@ export class Loop {
   #storing = false;
   #ended = false;
   #timer = 0;
+  #unsaved = false; // something could not be stored yet
 
   /** `show` takes the list of objects that the program tells after an event; `end` is called when it has ended. */
   constructor(storage, show, end) {
@@ -29,7 +33,7 @@ export class Loop {
 
   start(program) {
     this.#program = program;
-    this.#settle(program.start());
+    this.#settle(program.start(), "start");
   }
 
   /** Whether an event is taken at once; otherwise it waits until what was written is stored. */
@@ -46,22 +50,26 @@ export class Loop {
     }
     const goesOn = this.#program.send(event);
     const leaves = this.#message.some((object) => object.do === "leaveKey");
-    this.#settle(goesOn);
+    this.#settle(goesOn, event[0]);
     return leaves;
   }
 
-  #settle(goesOn) {
+  #settle(goesOn, event) {
     this.#ended = !goesOn;
-    if (this.#storage.hasPending) this.#storeAndShow();
+    const retries = this.#unsaved && !OWN_EVENTS.includes(event);
+    if (this.#storage.hasNews || retries) this.#storeAndShow();
     else this.#showMessage();
   }
 
+  /** A failure is told once, until what could not be stored has been. */
   async #storeAndShow() {
     this.#storing = true;
     const stored = await this.#storage.commit();
     this.#storing = false;
     this.#showMessage();
-    if (!stored) this.send("unsaved");
+    const isNew = !stored && !this.#unsaved;
+    this.#unsaved = !stored;
+    if (isNew) this.send("unsaved");
     while (!this.#storing && this.#queue.length > 0) this.send(...this.#queue.shift());
   }
 

@@ -27,6 +27,7 @@ export class Storage {
   #database = null;
   #files = new Map();
   #pending = new Map();
+  #hasNews = false;
 
   /** Opens the storage and reads all files. A browser that forbids it gives one that keeps nothing. */
   static async open() {
@@ -52,18 +53,24 @@ export class Storage {
     return this.#files;
   }
 
-  get hasPending() {
-    return this.#pending.size > 0;
+  /** Whether something has been written since the last commit began. */
+  get hasNews() {
+    return this.#hasNews;
   }
 
   store(name, bytes) {
     this.#files.set(name, bytes);
-    this.#pending.set(name, bytes);
+    this.#note(name, bytes);
   }
 
   remove(name) {
     this.#files.delete(name);
-    this.#pending.set(name, null);
+    this.#note(name, null);
+  }
+
+  #note(name, bytes) {
+    this.#pending.set(name, bytes);
+    this.#hasNews = true;
   }
 
   /** Gives the files of `files` the place of all that are there. */
@@ -75,6 +82,7 @@ export class Storage {
   /** Stores all that is pending, or nothing of it: false then, and it stays pending. */
   async commit() {
     const changes = [...this.#pending];
+    this.#hasNews = false;
     if (this.#database === null) {
       this.#pending.clear();
       return true;

@@ -7,6 +7,7 @@ import { fileOf, load, pictureNamed } from "./pictures.js";
 import { twips } from "./text.js";
 
 const DESIGN_TWIP = 1 / 15; // pixels
+const DRAG_STEP = 5; // pixels
 
 function make(tag, className, parent) {
   const node = document.createElement(tag);
@@ -20,6 +21,7 @@ export class Window {
   #scale = { twip: DESIGN_TWIP };
   #form = null;
   #focused = "";
+  #finger = 0;
 
   /** `send` takes an event for the program. */
   constructor(name, modal, send) {
@@ -218,6 +220,9 @@ export class Window {
     this.client.addEventListener("input", (event) => this.#input(event));
     this.client.addEventListener("compositionstart", (event) => this.#composing(event, true));
     this.client.addEventListener("compositionend", (event) => this.#composing(event, false));
+    for (const touch of ["touchstart", "touchmove"]) {
+      this.client.addEventListener(touch, (event) => this.#drag(event), { passive: true });
+    }
     if (this.modal) this.node.addEventListener("cancel", (event) => event.preventDefault());
   }
 
@@ -230,6 +235,17 @@ export class Window {
     else if (state?.clicks || state?.kind === "CommandButton") this.send("click", this.name, name);
     else this.send("clickForm", this.name);
     if (!this.hasFocus && this.node.isConnected) this.takeFocus();
+  }
+
+  /** A finger drawn across a window stands for the arrow keys. */
+  #drag(event) {
+    const [{ clientX }] = event.touches;
+    if (event.type === "touchstart" || event.touches.length > 1) this.#finger = clientX;
+    while (Math.abs(clientX - this.#finger) >= DRAG_STEP) {
+      const isRight = clientX > this.#finger;
+      this.#finger += isRight ? DRAG_STEP : -DRAG_STEP;
+      this.send("key", isRight ? "39" : "37", "0", "0");
+    }
   }
 
   #composing(event, isComposing) {

@@ -52,6 +52,9 @@ export class Player {
     player.page = await browser.newPage();
     await player.page.setViewport(viewport);
     if (prepare) await player.page.evaluateOnNewDocument(prepare);
+    player.page.on("request", (request) => {
+      if (!request.url().startsWith(address)) player.faults.push(`asked ${request.url()}`);
+    });
     player.page.on("pageerror", (error) => player.faults.push(error.message));
     player.page.on("console", (line) => line.type() === "error" && player.faults.push(line.text()));
     await player.page.goto(address);
@@ -91,6 +94,12 @@ export class Player {
       const node = document.getElementById(id);
       return node && !node.hidden ? node.innerText.replaceAll("\n", " ").trim() : null;
     }, name);
+  }
+
+  /** An entry of a menu, by the mouse. */
+  async menu(menu, entry) {
+    await this.page.click(`[data-menu="${menu}"]`);
+    await this.page.click(`[data-menu="${entry}"]`);
   }
 
   /** Waits until a window is in front. */
