@@ -6,6 +6,7 @@
 #include "records/Archivos.h"
 #include "shell/Juego.h"
 #include "web/Browser.h"
+#include "web/Page.h"
 
 namespace {
 
@@ -33,7 +34,7 @@ void Furnish(juego::Files& files) {
 
 extern "C" {
 
-__attribute__((export_name("area"))) Area* zarpi_area() {
+ZARPI_EXPORT("area") Area* zarpi_area() {
     static Area area{};
     area.begin = area.memory.data();
     area.end = area.begin + kArea;
@@ -41,7 +42,7 @@ __attribute__((export_name("area"))) Area* zarpi_area() {
 }
 
 /// The program. Called again after each wait, it goes on where it was.
-__attribute__((export_name("run"))) void zarpi_run() {
+ZARPI_EXPORT("run") void zarpi_run() {
     platform::web::Browser browser;
     Furnish(browser.Services().Files);
     juego::Juego juego(browser.Services());
@@ -51,6 +52,7 @@ __attribute__((export_name("run"))) void zarpi_run() {
 }
 }
 
+#ifdef _LIBCPP_VERSION
 // What the library finds broken stops the program, without the texts and streams that would tell it.
 [[noreturn]] void std::__libcpp_verbose_abort(char const* /*format*/, ...) {
     __builtin_trap();
@@ -58,3 +60,4 @@ __attribute__((export_name("run"))) void zarpi_run() {
 extern "C" [[noreturn]] void abort_message(char const* /*format*/, ...) {
     __builtin_trap();
 }
+#endif

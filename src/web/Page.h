@@ -8,8 +8,10 @@
 
 #ifdef __wasm__
 #define ZARPI_PAGE(name) __attribute__((import_module("page"), import_name(name)))
+#define ZARPI_EXPORT(name) __attribute__((export_name(name)))
 #else
 #define ZARPI_PAGE(name)
+#define ZARPI_EXPORT(name)
 #endif
 
 extern "C" {

@@ -1,8 +1,8 @@
 #include "web/PageDisplay.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
-#include <ranges>
 #include <utility>
 
 #include "web/Json.h"
@@ -52,7 +52,7 @@ void PageDisplay::Send() {
     message_.clear();
 }
 
-void PageDisplay::Tell(std::string object) {
+void PageDisplay::Tell(const std::string& object) {
     TellChanges();
     Add(object);
 }
@@ -162,8 +162,9 @@ void PageDisplay::TellState(Window& window, const std::string& name, std::string
 
 void PageDisplay::TellLayers(const Form& form, Window& window) {
     std::string names;
-    for (const Control* control : form.Controls() | std::views::reverse) {
-        names.append(names.empty() ? "" : ",").append(Quoted(control->FullName()));
+    const auto controls = form.Controls();
+    for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+        names.append(names.empty() ? "" : ",").append(Quoted((*control)->FullName()));
     }
     if (window.layers == names) return;
     Add(Json("layers").Text("form", form.Name).Raw("names", "[" + names + "]").Done());

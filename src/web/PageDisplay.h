@@ -28,7 +28,7 @@ public:
     [[noreturn]] void End() override;
 
     /// Adds an object to the message, behind those that tell what has changed so far.
-    void Tell(std::string object);
+    void Tell(const std::string& object);
     /// Waits, while time passes and no window takes input, until the player has answered what the page asks. What he
     /// chose: false to cancel.
     bool WaitForAnswer();
