@@ -1,6 +1,5 @@
 // zarpi.wasm: the game in a page of a browser.
 
-#include <algorithm>
 #include <array>
 
 #include "records/Archivos.h"
@@ -19,17 +18,6 @@ struct Area {
     alignas(16) std::array<char, kArea> memory;
 };
 
-/// A player's first start: the counters of all lists are there and tell nothing.
-void Furnish(juego::Files& files) {
-    const auto furnish = [&files](const juego::Par& par) {
-        if (!files.Read(par.Contador)) juego::EscribirContador(files, par, 0);
-    };
-    if (files.Read(juego::ArchivoGuardadas.Contador) || files.Read(juego::ArchivoGuardadas.Registros)) return;
-    furnish(juego::ArchivoGuardadas);
-    furnish(juego::ArchivoÚltimas);
-    std::ranges::for_each(juego::ArchivosHonor, furnish);
-}
-
 }  // namespace
 
 extern "C" {
@@ -44,7 +32,7 @@ ZARPI_EXPORT("area") Area* zarpi_area() {
 /// The program. Called again after each wait, it goes on where it was.
 ZARPI_EXPORT("run") void zarpi_run() {
     platform::web::Browser browser;
-    Furnish(browser.Services().Files);
+    if (browser.IsNew()) juego::EstrenarCarpeta(browser.Services().Files);
     juego::Juego juego(browser.Services());
     browser.OnUnsaved([&juego] { juego.AvisarError(); });
     juego.Start();

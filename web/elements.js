@@ -17,6 +17,12 @@ function mixed(colour, other, share) {
   return `rgb(${mix.join(" ")})`;
 }
 
+/** Sets an attribute, or takes it away where the value is null. */
+function setAttribute(node, name, value) {
+  if (value === null) node.removeAttribute(name);
+  else node.setAttribute(name, value);
+}
+
 function lineWidth(pixels) {
   return `max(1px, ${twips(15 * pixels)})`;
 }
@@ -54,7 +60,6 @@ class Label extends Element {
   apply(state) {
     const { node } = this;
     const edge = state.border ? 15 : 0;
-    node.style.backgroundColor = state.back ?? "transparent";
     node.style.color = state.fore ?? "black";
     node.classList.toggle("centred", state.centred);
     node.style.borderWidth = state.border ? lineWidth(1) : "0";
@@ -66,13 +71,18 @@ class Label extends Element {
     node.title = state.tip;
     const box = { width: state.width - 2 * edge, height: state.height - 2 * edge };
     placeText(this.text, state.caption, state, box, state.centred && (state.back !== null || state.border));
-    if (state.clicks) this.#applyClicks(state);
+    const ground = state.back ?? "transparent";
+    node.style.backgroundColor = state.snug ? "transparent" : ground;
+    this.text.style.backgroundColor = state.snug ? ground : "";
+    this.text.classList.toggle("snug", state.snug);
+    this.#name(state);
   }
 
-  #applyClicks({ name, caption }) {
-    this.node.setAttribute("role", "button");
-    const index = name.match(/\((\d+)\)$/)?.[1] ?? "";
-    this.node.setAttribute("aria-label", caption === "" ? `Casilla ${index}, vacía` : caption);
+  #name({ clicks, caption, spoken }) {
+    const isOther = clicks || spoken !== caption;
+    setAttribute(this.node, "role", clicks ? "button" : isOther && spoken !== "" ? "img" : null);
+    setAttribute(this.node, "aria-label", isOther && spoken !== "" ? spoken : null);
+    setAttribute(this.node, "aria-hidden", spoken === "" ? "true" : null);
   }
 }
 
@@ -86,7 +96,7 @@ class Picture extends Element {
 
   apply(state, twip) {
     this.node.title = state.tip;
-    this.image.alt = state.tip;
+    this.image.alt = state.spoken;
     const picture = pictureOf(state);
     if (picture === undefined || !state.visible) return;
     const { style } = this.image;
@@ -110,6 +120,7 @@ class Shape extends Element {
 
   apply(state) {
     const { style } = this.node;
+    style.pointerEvents = state.clicks ? "auto" : "none";
     style.backgroundColor = state.back ?? "transparent";
     style.border = state.line === null ? "none" : `${lineWidth(state.lineWidth)} solid ${state.line}`;
     const radius = Math.min(270, 0.17 * Math.min(state.width, state.height));
@@ -145,6 +156,7 @@ class Button extends Element {
     node.disabled = !state.enabled;
     node.classList.toggle("default", state.default);
     if (state.back !== null) node.style.backgroundColor = state.back;
+    setAttribute(node, "aria-label", state.spoken === state.caption ? null : state.spoken);
     placeText(this.text, state.caption, state, { width: state.width - 90, height: state.height }, true);
   }
 }
@@ -160,6 +172,7 @@ class TextBox extends Element {
   apply(state) {
     const { node } = this;
     node.type = state.password ? "password" : "text";
+    node.setAttribute("aria-label", state.spoken);
     node.readOnly = state.locked;
     node.disabled = !state.enabled;
     node.style.backgroundColor = state.back ?? "";
@@ -190,6 +203,7 @@ class ListBox extends Element {
     const { node } = this;
     node.style.fontSize = twips(state.size);
     setFont(node, state);
+    node.setAttribute("aria-label", state.spoken);
     node.setAttribute("aria-disabled", String(!state.enabled));
     const rows = state.lines.map((line, i) => {
       const row = make("div", "row");

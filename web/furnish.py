@@ -24,7 +24,7 @@ FONT_FILES = {
     "serif-bold": "LiberationSerif-Bold.ttf",
 }
 QUALITY = 82
-ICONS = ("icon", "icon256")
+ICON_SIZES = (32, 256)
 MUSIC = "ogg"
 
 
@@ -45,10 +45,10 @@ def write_webp(source: Path, target: Path):
 def furnish_pictures(assets: Path, site: Path):
     folder = site / "pictures"
     folder.mkdir()
+    for size in ICON_SIZES:
+        shutil.copy(assets / f"icons/hicolor/{size}x{size}/apps/zarpi.png", folder / f"icon{size}.png")
     pictures = {}
     for name, path in picture_sources(assets):
-        if name in ICONS:
-            shutil.copy(path, folder / path.name)
         width, height = write_webp(path, folder / f"{name}.webp")
         pictures[name] = {"width": width, "height": height, "single": f"pictures/{name}.webp"}
         for twice in sorted(path.parent.glob(f"{name}@2x.*")):

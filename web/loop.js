@@ -1,5 +1,7 @@
 // The road of an event: into the program, what it wrote into the storage, what it changed onto the page.
 
+import { pictureSize } from "./pictures.js";
+
 /** Events behind which there is no player: they do not try again to store what could not be stored. */
 const OWN_EVENTS = ["tick", "unsaved"];
 
@@ -28,6 +30,7 @@ export class Loop {
       store: (name, bytes) => this.#storage.store(name, bytes),
       remove: (name) => this.#storage.remove(name),
       storedFiles: () => this.#storage.files,
+      pictureSize,
     };
   }
 

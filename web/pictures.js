@@ -7,9 +7,18 @@ export function setPictures(pictures) {
   known = pictures;
 }
 
+function pictureInFile(file) {
+  return known[file.replace(/\.bmp$/, "")];
+}
+
 /** The picture of an element; undefined for a file that is not there. */
 export function pictureOf(state) {
-  return known[state.picture === "" ? state.stored : state.picture.replace(/\.bmp$/, "")];
+  return state.picture === "" ? known[state.stored] : pictureInFile(state.picture);
+}
+
+/** Width and height of a file that the program opens by name; undefined for one that is not there. */
+export function pictureSize(file) {
+  return pictureInFile(file);
 }
 
 export function pictureNamed(name) {

@@ -12,8 +12,8 @@ export class Program {
   #page;
 
   /**
-   * Loads the program; nothing of it runs yet. `page` has the functions tell(objects), store(name, bytes), remove(name)
-   * and storedFiles(), which gives a map of names to bytes.
+   * Loads the program; nothing of it runs yet. `page` has the functions tell(objects), store(name, bytes), remove(name),
+   * storedFiles(), which gives a map of names to bytes, and pictureSize(name), which gives width and height in pixels.
    */
   static async load(url, page) {
     const program = new Program();
@@ -76,6 +76,10 @@ export class Program {
         return now.getTime() - now.getTimezoneOffset() * 60000;
       },
       random_bits: () => crypto.getRandomValues(new Uint32Array(1))[0],
+      picture_size: (name, nameLength) => {
+        const { width, height } = this.#page.pictureSize(this.#text(name, nameLength)) ?? { width: 0, height: 0 };
+        return width * 0x10000 + height;
+      },
       stored_files: (buffer, capacity) => {
         const all = pack(this.#page.storedFiles());
         this.#bytes(buffer, capacity).set(all.subarray(0, capacity));

@@ -1,8 +1,7 @@
-// Sound by Web Audio: one piece of music at a time, effects over each other, music softer while a fanfare sounds.
+// Sound by Web Audio: one piece of music at a time, effects over each other, softer while something sounds over it.
 
 const FADE = 0.05; // seconds
 const DUCKED = 10 ** (-10 / 20);
-const FANFARES = /^(Pleno|Extra|Zar200|Pal16|Conseg|Diploma)\.wav$/;
 
 export class Sound {
   #context = null;
@@ -10,7 +9,7 @@ export class Sound {
   #buffers = new Map();
   #channels = new Map();
   #music = null;
-  #fanfares = 0;
+  #over = 0; // sounds over the music
 
   /** `files` maps the names that the program uses to what lies on the server; a file that it does not have is silent. */
   constructor(files) {
@@ -23,14 +22,14 @@ export class Sound {
     if (this.#context?.state === "suspended") this.#context.resume().catch(() => {});
   }
 
-  async play(channel, name) {
+  async play(channel, name, overMusic) {
     const file = this.#files[name];
     this.wake();
     if (file === undefined || this.#context === null) return;
     const isMusic = name.endsWith(".mid");
     if (isMusic) for (const key of this.#channels.keys()) if (this.#channels.get(key).isMusic) this.stop(key);
     this.#stopNow(channel);
-    const sounding = { isMusic, fanfare: FANFARES.test(name) };
+    const sounding = { isMusic, overMusic };
     this.#channels.set(channel, sounding);
     const buffer = await this.#load(file, isMusic);
     // While the file came the channel may have been given something else to do.
@@ -83,17 +82,17 @@ export class Sound {
     sounding.source.buffer = buffer;
     sounding.gain = this.#context.createGain();
     sounding.source.connect(sounding.gain).connect(sounding.isMusic ? this.#music : this.#context.destination);
-    if (sounding.fanfare) this.#duck(1);
+    if (sounding.overMusic) this.#duck(1);
     sounding.source.onended = () => {
-      if (sounding.fanfare) this.#duck(-1);
+      if (sounding.overMusic) this.#duck(-1);
       if (this.#channels.get(channel) === sounding) this.#channels.delete(channel);
     };
     sounding.source.start();
   }
 
   #duck(step) {
-    this.#fanfares += step;
-    this.#music.gain.setTargetAtTime(this.#fanfares > 0 ? DUCKED : 1, this.#context.currentTime, FADE / 3);
+    this.#over += step;
+    this.#music.gain.setTargetAtTime(this.#over > 0 ? DUCKED : 1, this.#context.currentTime, FADE / 3);
   }
 
   /** Effects are kept, music is not: a piece decoded is large. */

@@ -8,6 +8,7 @@ import { twips } from "./text.js";
 
 const DESIGN_TWIP = 1 / 15; // pixels
 const DRAG_STEP = 5; // pixels
+const SPOKEN_LINES = 6;
 
 function make(tag, className, parent) {
   const node = document.createElement(tag);
@@ -69,14 +70,12 @@ export class Window {
 
   showElement(state) {
     let element = this.#elements.get(state.name);
-    const before = element?.state;
     if (!element) {
       element = makeElement(state);
       this.#elements.set(state.name, element);
       this.client.append(element.node);
     }
     this.#place(element, state);
-    this.#speak(state, before);
   }
 
   /** Puts the elements into their layers, the names from back to front. */
@@ -99,6 +98,14 @@ export class Window {
     if (element && !element.node.hidden && !element.node.disabled) element.focus();
     else if (matchMedia("(pointer: coarse)").matches) this.client.focus({ preventScroll: true });
     else this.keys.focus({ preventScroll: true });
+  }
+
+  /** Tells a player who listens. Each text is a line of its own, so that the same one is heard again. */
+  say(text) {
+    const line = document.createElement("p");
+    line.textContent = text;
+    this.spoken.append(line);
+    while (this.spoken.children.length > SPOKEN_LINES) this.spoken.firstChild.remove();
   }
 
   /** Whether the focus of the page is somewhere in the window. */
@@ -154,17 +161,6 @@ export class Window {
     const placed = this.isNarrow ? narrowState(state, this.#scale) : state;
     element.show(placed, this.twip);
     element.node.dataset.clicks = String(state.clicks);
-    if (state.kind === "TextBox" || state.kind === "ListBox") this.#nameField(element);
-  }
-
-  /** A field is called by the label beside it, or else above it, that is nearest. */
-  #nameField(element) {
-    const { left, top, height } = element.told;
-    const distance = (other) =>
-      Math.abs(left - other.left - other.width) + 3 * Math.abs(top + height / 2 - other.top - other.height / 2);
-    const labels = this.elements.map((other) => other.told).filter((other) => other.kind === "Label" && other.caption);
-    labels.sort((a, b) => distance(a) - distance(b));
-    element.node.setAttribute("aria-label", (labels[0]?.caption ?? this.#form?.caption ?? "").trim().replace(/:$/, ""));
   }
 
   #showGround() {
@@ -172,16 +168,6 @@ export class Window {
     if (!picture) return;
     const file = fileOf(picture, this.twip);
     load(file).then(() => (this.client.style.backgroundImage = `url("${file}")`));
-  }
-
-  /** Says what the program writes: sentences, not clocks and scores. */
-  #speak(state, before) {
-    const changed = before && (before.caption !== state.caption || !before.visible);
-    if (state.kind !== "Label" || state.clicks || !state.visible || !changed || !/\p{L}{2}/u.test(state.caption)) return;
-    const line = document.createElement("p");
-    line.textContent = state.caption;
-    this.spoken.append(line);
-    while (this.spoken.children.length > 6) this.spoken.firstChild.remove();
   }
 
   #makeTitle() {

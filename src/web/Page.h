@@ -31,6 +31,9 @@ ZARPI_PAGE("local_time") double page_local_time();
 /// 32 random bits.
 ZARPI_PAGE("random_bits") std::uint32_t page_random_bits();
 
+/// The width and height of a picture file in pixels, each in 16 bits; 0 if there is none of this name.
+ZARPI_PAGE("picture_size") std::uint32_t page_picture_size(const char* name, std::size_t nameLength);
+
 /// All stored files, each as its name, a blank, its length, a line feed and its bytes. The length of all of it; at most
 /// `capacity` bytes are written.
 ZARPI_PAGE("stored_files") std::size_t page_stored_files(char* buffer, std::size_t capacity);

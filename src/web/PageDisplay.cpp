@@ -73,6 +73,13 @@ void PageDisplay::End() {
     page_end();
 }
 
+std::optional<PictureSize> PageDisplay::SizeOf(TextView picture) const {
+    const std::string name = ToUtf8(picture);
+    const std::uint32_t size = page_picture_size(name.data(), name.size());
+    if (size == 0) return std::nullopt;
+    return PictureSize{.Width = static_cast<int>(size >> 16U), .Height = static_cast<int>(size & 0xFFFFU)};
+}
+
 void PageDisplay::WaitUntil(const std::function<bool()>& done) {
     while (!done()) Take(NextEvent());
 }

@@ -26,6 +26,7 @@ public:
     void Refresh() override {}
     void WaitUntil(const std::function<bool()>& done) override;
     [[noreturn]] void End() override;
+    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
 
     /// Adds an object to the message, behind those that tell what has changed so far.
     void Tell(const std::string& object);

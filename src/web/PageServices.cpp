@@ -56,9 +56,16 @@ void PageMedia::Command(const MediaChannel& channel, MediaCommand command) {
     if (command == MediaCommand::Open) files_[channel.Name] = channel.FileName;
     if (command == MediaCommand::Open || command == MediaCommand::Prev) return;  // nothing to be heard
     const bool plays = command == MediaCommand::Play;
-    display_.Tell(
-        Json(plays ? "play" : "stop").Text("channel", channel.Name).Text("file", files_[channel.Name]).Done());
+    display_.Tell(Json(plays ? "play" : "stop")
+                      .Text("channel", channel.Name)
+                      .Text("file", files_[channel.Name])
+                      .Flag("overMusic", channel.OverMusic)
+                      .Done());
     if (command == MediaCommand::Close) files_.erase(channel.Name);
+}
+
+void PageSpeech::Say(TextView text) {
+    display_.Tell(Json("say").Text("text", text).Done());
 }
 
 void PageBrowser::Navigate(TextView address) {

@@ -54,6 +54,18 @@ private:
     std::map<std::string, Text> files_;
 };
 
+/// Speaks through the page's live region. A page is not told whether anybody listens.
+class PageSpeech : public Speech {
+public:
+    explicit PageSpeech(PageDisplay& display) : display_(display) {}
+
+    [[nodiscard]] bool IsHeard() const override { return true; }
+    void Say(TextView text) override;
+
+private:
+    PageDisplay& display_;
+};
+
 /// Opens pages in tabs of their own.
 class PageBrowser : public Web {
 public:

@@ -25,6 +25,7 @@ void Put(Json& json, const LabelLook& look) {
     json.Text("caption", look.Caption).Colour("back", look.BackColor).Colour("fore", look.ForeColor);
     PutFont(json, look);
     json.Flag("centred", look.Align == Alignment::Centre)
+        .Flag("snug", look.Snug)
         .Flag("border", look.BorderStyle != 0)
         .Text("tip", look.ToolTipText);
 }
@@ -119,7 +120,8 @@ std::string StateOf(const Control& control) {
         .Number("height", control.Height)
         .Flag("visible", control.Visible)
         .Flag("clicks", control.Click != nullptr)
-        .Number("tab", TabIndexOf(control));
+        .Number("tab", TabIndexOf(control))
+        .Text("spoken", SpokenNameOf(control));
     PutLook(json, control);
     return json.Done();
 }

@@ -35,6 +35,10 @@ StoredFiles::StoredFiles() {
     }
 }
 
+bool StoredFiles::Exists(std::string_view name) {
+    return files_.contains(name);
+}
+
 std::optional<std::string> StoredFiles::Read(std::string_view name) {
     const auto file = files_.find(name);
     return file == files_.end() ? std::nullopt : std::optional(file->second);

@@ -15,11 +15,14 @@ public:
     /// Reads what the page has stored.
     StoredFiles();
 
+    bool Exists(std::string_view name) override;
     std::optional<std::string> Read(std::string_view name) override;
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;
     bool Replace(std::string_view name, std::string_view content) override;
     bool Remove(std::string_view name) override;
+
+    [[nodiscard]] bool IsEmpty() const { return files_.empty(); }
 
 private:
     std::map<std::string, std::string, std::less<>> files_;

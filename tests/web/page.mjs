@@ -58,7 +58,9 @@ export class Player {
     player.page.on("pageerror", (error) => player.faults.push(error.message));
     player.page.on("console", (line) => line.type() === "error" && player.faults.push(line.text()));
     await player.page.goto(address);
-    await player.page.waitForSelector("#frmPresenta .picture");
+    await player.page.waitForSelector("#frmPresenta .picture", { timeout: 10000 }).catch((error) => {
+      throw new Error(player.faults.join(" ") || error.message);
+    });
     return player;
   }
 
