@@ -56,7 +56,7 @@ export class Player {
       if (!request.url().startsWith(address)) player.faults.push(`asked ${request.url()}`);
     });
     player.page.on("pageerror", (error) => player.faults.push(error.message));
-    player.page.on("console", (line) => line.type() === "error" && player.faults.push(line.text()));
+    player.page.on("console", (line) => line.type() === "error" && player.faults.push(`${line.text()} ${line.location().url}`));
     await player.page.goto(address);
     await player.page.waitForSelector("#frmPresenta .picture", { timeout: 10000 }).catch((error) => {
       throw new Error(player.faults.join(" ") || error.message);
