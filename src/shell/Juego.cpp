@@ -1,7 +1,6 @@
 #include "shell/Juego.h"
 
 #include "engine/Elecciones.h"
-#include "game/AvisoError.h"
 #include "records/Diario.h"
 #include "shell/Teclado.h"
 #include "stage/Escena.h"

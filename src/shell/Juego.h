@@ -8,6 +8,7 @@
 #include "engine/Letras.h"
 #include "engine/Partida.h"
 #include "engine/Reloj.h"
+#include "game/AvisoError.h"
 #include "game/Campos.h"
 #include "stage/Empujador.h"
 #include "voice/Voz.h"
@@ -33,6 +34,9 @@ public:
 
     /// Loads the main window, which brings up the presentation.
     void Start();
+
+    /// Shows the error notice: the platform has learned later that something written could not be stored.
+    void AvisarError() { MostrarErrorAlFrente(z); }
 
     /// All windows, the main one first.
     [[nodiscard]] std::vector<Form*> Ventanas();

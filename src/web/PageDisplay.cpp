@@ -1,0 +1,188 @@
+#include "web/PageDisplay.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+#include "web/Json.h"
+#include "web/Page.h"
+#include "web/States.h"
+
+namespace platform::web {
+
+namespace {
+
+constexpr std::size_t kLongestEvent = 4096;
+
+Event Parts(std::string_view text) {
+    Event event;
+    for (std::size_t end = 0; end != std::string_view::npos;) {
+        end = text.find('\n');
+        event.emplace_back(text.substr(0, end));
+        if (end != std::string_view::npos) text.remove_prefix(end + 1);
+    }
+    return event;
+}
+
+/// Part `index` of an event; empty if there is none.
+std::string_view Part(const Event& event, std::size_t index) {
+    return index < event.size() ? std::string_view(event[index]) : std::string_view();
+}
+
+int NumberOf(std::string_view text) {
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+}  // namespace
+
+Moment Now() {
+    return Moment(static_cast<std::int64_t>(page_now()));
+}
+
+void PageDisplay::Add(const std::string& object) {
+    message_.append(message_.empty() ? "" : ",").append(object);
+}
+
+void PageDisplay::Send() {
+    const std::string list = "[" + message_ + "]";
+    page_tell(list.data(), list.size());
+    message_.clear();
+}
+
+void PageDisplay::Tell(const std::string& object) {
+    TellChanges();
+    Add(object);
+}
+
+void PageDisplay::Opened(Form& form, bool modal) {
+    windows_[&form] = {};
+    Add(Json("open").Text("form", form.Name).Flag("modal", modal).Done());
+}
+
+void PageDisplay::Closed(Form& form) {
+    windows_.erase(&form);
+    Add(Json("close").Text("form", form.Name).Done());
+}
+
+void PageDisplay::End() {
+    TellChanges();
+    Send();
+    page_end();
+}
+
+std::optional<PictureSize> PageDisplay::SizeOf(TextView picture) const {
+    const std::string name = ToUtf8(picture);
+    const std::uint32_t size = page_picture_size(name.data(), name.size());
+    if (size == 0) return std::nullopt;
+    return PictureSize{.Width = static_cast<int>(size >> 16U), .Height = static_cast<int>(size & 0xFFFFU)};
+}
+
+void PageDisplay::WaitUntil(const std::function<bool()>& done) {
+    while (!done()) Take(NextEvent());
+}
+
+bool PageDisplay::WaitForAnswer() {
+    while (true) {
+        const Event event = NextEvent();
+        if (event.front() == "answer") return Part(event, 1) == "1";
+        if (event.front() == "tick" || event.front() == "unsaved") Take(event);
+    }
+}
+
+Event PageDisplay::NextEvent() {
+    TellChanges();
+    TellWake();
+    Send();
+    std::array<char, kLongestEvent> buffer{};
+    return Parts({buffer.data(), page_next_event(buffer.data(), buffer.size())});
+}
+
+void PageDisplay::Take(const Event& event) {
+    const std::string& what = event.front();
+    if (what == "tick") return Tick();
+    if (what == "key") return TakeKey(event);
+    if (what == "unsaved") {
+        if (OnUnsaved) OnUnsaved();
+        return;
+    }
+    const auto& shown = screen_->Shown();
+    const auto form = std::ranges::find(shown, Part(event, 1), &Form::Name);
+    if (form != shown.end()) TakeInput(event, **form);
+}
+
+void PageDisplay::TakeInput(const Event& event, Form& form) {
+    const std::string& what = event.front();
+    if (what == "close") screen_->Close(form);
+    if (what == "clickForm") screen_->Click(form);
+    Control* const control = form.Find(Part(event, 2));
+    if (control == nullptr) return;
+    if (what == "click") screen_->Click(*control);
+    if (what == "focus") screen_->Focus(*control);
+    if (what == "type" && control->kind == Kind::TextBox) {
+        screen_->Type(static_cast<TextBox&>(*control), FromUtf8(Part(event, 3)));
+        windows_[&form].states.erase(control->FullName());  // what is in the box is not what the page was told
+    }
+    if (what == "select" && control->kind == Kind::ListBox) {
+        screen_->Select(static_cast<ListBox&>(*control), NumberOf(Part(event, 3)));
+    }
+}
+
+/// A key that the screen leaves goes on to the element that has the focus, on the page.
+void PageDisplay::TakeKey(const Event& event) {
+    const Key key{.Code = NumberOf(Part(event, 1)),
+                  .Character = static_cast<char16_t>(NumberOf(Part(event, 2))),
+                  .Control = Part(event, 3) == "1"};
+    if (!screen_->Press(key)) Add(Json("leaveKey").Done());
+}
+
+void PageDisplay::Tick() {
+    const Moment now = Now();
+    while (screen_->Tick(now)) {
+    }
+}
+
+void PageDisplay::TellChanges() {
+    for (const Form* form : screen_->Shown()) TellChanges(*form, windows_[form]);
+}
+
+void PageDisplay::TellChanges(const Form& form, Window& window) {
+    for (const Menu* menu : form.Menus()) TellState(window, menu->FullName(), StateOf(*menu));
+    TellState(window, {}, StateOf(form));
+    for (const Control* control : form.Controls()) {
+        if (IsSeen(*control)) TellState(window, control->FullName(), StateOf(*control));
+    }
+    TellLayers(form, window);
+    const Control* const focus = form.Focus();
+    if (std::exchange(window.focus, focus) == focus) return;
+    Add(Json("focus").Text("form", form.Name).Text("name", focus == nullptr ? "" : focus->FullName()).Done());
+}
+
+void PageDisplay::TellState(Window& window, const std::string& name, std::string state) {
+    std::string& told = window.states[name];
+    if (told == state) return;
+    Add(state);
+    told = std::move(state);
+}
+
+void PageDisplay::TellLayers(const Form& form, Window& window) {
+    std::string names;
+    const auto controls = form.Controls();
+    for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
+        names.append(names.empty() ? "" : ",").append(Quoted((*control)->FullName()));
+    }
+    if (window.layers == names) return;
+    Add(Json("layers").Text("form", form.Name).Raw("names", "[" + names + "]").Done());
+    window.layers = std::move(names);
+}
+
+void PageDisplay::TellWake() {
+    const auto due = scheduler_.NextDue();
+    Json json("wake");
+    if (due) json.Number("after", static_cast<long>(std::max<std::int64_t>(0, (*due - Now()).count())));
+    Add(json.Done());
+}
+
+}  // namespace platform::web

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/Screen.h"
+
+namespace platform::web {
+
+/// An event in its parts, the first of which says what it is: "click", "Zarpi", "lblTecla(5)".
+using Event = std::vector<std::string>;
+
+/// Shows the windows on the page and takes the player's input from it. The page is told what has changed in one message
+/// after each event, just before the next one is taken.
+class PageDisplay : public Display {
+public:
+    explicit PageDisplay(const Scheduler& scheduler) : scheduler_(scheduler) {}
+
+    /// Where the player's input goes; to be told before the first form is shown.
+    void Attach(Screen& screen) { screen_ = &screen; }
+
+    void Opened(Form& form, bool modal) override;
+    void Closed(Form& form) override;
+    void Refresh() override {}
+    void WaitUntil(const std::function<bool()>& done) override;
+    [[noreturn]] void End() override;
+    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
+
+    /// Adds an object to the message, behind those that tell what has changed so far.
+    void Tell(const std::string& object);
+    /// Waits, while time passes and no window takes input, until the player has answered what the page asks. What he
+    /// chose: false to cancel.
+    bool WaitForAnswer();
+
+    std::function<void()> OnUnsaved;  ///< what was written could not be stored
+
+private:
+    /// What the page was last told of an open form, by the names of its elements.
+    struct Window {
+        std::map<std::string, std::string> states;
+        std::string layers;
+        const Control* focus = nullptr;
+    };
+
+    Event NextEvent();
+    void Take(const Event& event);
+    void TakeInput(const Event& event, Form& form);
+    void TakeKey(const Event& event);
+    void Tick();
+    void TellChanges();
+    void TellChanges(const Form& form, Window& window);
+    void TellLayers(const Form& form, Window& window);
+    void TellWake();
+    void TellState(Window& window, const std::string& name, std::string state);
+    void Add(const std::string& object);
+    void Send();
+
+    const Scheduler& scheduler_;
+    Screen* screen_ = nullptr;
+    std::map<const Form*, Window> windows_;
+    std::string message_;  // objects, divided by commas
+};
+
+/// Milliseconds since the page was opened.
+Moment Now();
+
+}  // namespace platform::web

@@ -1,0 +1,156 @@
+// The page in Chromium: a server of its own, a fresh player, and what a player does and sees.
+
+import { mkdtemp, readFile, rm } from "node:fs/promises";
+import { createServer } from "node:http";
+import { tmpdir } from "node:os";
+import { extname, join } from "node:path";
+import puppeteer from "puppeteer-core";
+
+export const site = new URL(process.env.ZARPI_SITE ?? "../../build/web/juego/", import.meta.url);
+const TYPES = {
+  ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".json": "application/json",
+  ".wasm": "application/wasm", ".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2",
+};
+const OPTIONS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+  "--disable-component-update", "--disable-sync"];
+
+export const PHONE = { width: 390, height: 740, hasTouch: true, isMobile: true, deviceScaleFactor: 2 };
+
+export async function serve() {
+  const requests = [];
+  const server = createServer(async (request, response) => {
+    const path = decodeURIComponent(new URL(request.url, "http://site").pathname);
+    requests.push(path);
+    const type = TYPES[extname(path)] ?? (path === "/" ? "text/html" : "application/octet-stream");
+    const body = await readFile(new URL(`.${path === "/" ? "/index.html" : path}`, site)).catch(() => null);
+    response.writeHead(body ? 200 : 404, { "content-type": type }).end(body);
+  });
+  await new Promise((done) => server.listen(0, "127.0.0.1", done));
+  return { address: `http://127.0.0.1:${server.address().port}/`, requests, close: () => server.close() };
+}
+
+/** A browser that knows nothing yet; close() takes all of it away. */
+export async function launch() {
+  const profile = await mkdtemp(join(tmpdir(), "zarpi-web-"));
+  const browser = await puppeteer.launch({
+    executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", headless: true, userDataDir: profile, args: OPTIONS,
+  });
+  const close = async () => {
+    await browser.close();
+    await rm(profile, { recursive: true, force: true });
+  };
+  return { browser, close };
+}
+
+/** The game in a tab, as its player has it before him. Faults of the page end up in `faults`. */
+export class Player {
+  faults = [];
+
+  /** `prepare` runs in the page before anything of it. */
+  static async enter(browser, address, { viewport = { width: 1280, height: 800 }, prepare } = {}) {
+    const player = new Player();
+    player.page = await browser.newPage();
+    await player.page.setViewport(viewport);
+    if (prepare) await player.page.evaluateOnNewDocument(prepare);
+    player.page.on("request", (request) => {
+      if (!request.url().startsWith(address)) player.faults.push(`asked ${request.url()}`);
+    });
+    player.page.on("pageerror", (error) => player.faults.push(error.message));
+    player.page.on("console", (line) => line.type() === "error" && player.faults.push(`${line.text()} ${line.location().url}`));
+    await player.page.goto(address);
+    await player.page.waitForSelector("#frmPresenta .picture", { timeout: 10000 }).catch((error) => {
+      throw new Error(player.faults.join(" ") || error.message);
+    });
+    return player;
+  }
+
+  /** Presses keys by their names, one after the other. */
+  async press(...keys) {
+    for (const key of keys) await this.page.keyboard.press(key);
+  }
+
+  /** The shortcut of a menu entry, as it works in a browser. */
+  async shortcut(letter) {
+    await this.page.keyboard.down("Shift");
+    await this.page.keyboard.down("Alt");
+    await this.page.keyboard.press(`Key${letter}`);
+    await this.page.keyboard.up("Alt");
+    await this.page.keyboard.up("Shift");
+  }
+
+  element(name) {
+    return this.page.waitForSelector(`[id="${name}"]`, { visible: true, timeout: 5000 });
+  }
+
+  async click(name) {
+    await (await this.element(name)).click();
+  }
+
+  async tap(name) {
+    await (await this.element(name)).tap();
+  }
+
+  /** The text of an element; null while it cannot be seen. */
+  see(name) {
+    return this.page.evaluate((id) => {
+      const node = document.getElementById(id);
+      return node && !node.hidden ? node.innerText.replaceAll("\n", " ").trim() : null;
+    }, name);
+  }
+
+  /** An entry of a menu, by the mouse. */
+  async menu(menu, entry) {
+    await this.page.click(`[data-menu="${menu}"]`);
+    await this.page.click(`[data-menu="${entry}"]`);
+  }
+
+  /** Waits until a window is in front. */
+  async front(form) {
+    const isFront = (name) => [...document.querySelectorAll(".window")].at(-1)?.id === name;
+    await this.page.waitForFunction(isFront, { timeout: 15000 }, form);
+  }
+
+  /** Waits until an element shows a text that `pattern` matches. */
+  async shows(name, pattern) {
+    const matches = (id, source) => {
+      const node = document.getElementById(id);
+      return node && !node.hidden && new RegExp(source).test(node.innerText.replaceAll("\n", " "));
+    };
+    await this.page.waitForFunction(matches, { timeout: 15000 }, name, pattern.source);
+  }
+
+  /** From the presentation to the first word, for a player of this name. */
+  async startGame(name) {
+    await this.press("Space");
+    await this.front("Zarpi");
+    await this.shortcut("N");
+    await this.front("frmNivel");
+    await this.press("Enter");
+    await this.front("frmNombre");
+    await this.page.keyboard.type(name);
+    await this.press("Enter");
+    await this.front("Zarpi");
+  }
+
+  /** The stored files, names and bytes. */
+  files() {
+    return this.page.evaluate(async () => {
+      const wait = (request) => new Promise((done) => (request.onsuccess = () => done(request.result)));
+      const database = await wait(indexedDB.open("zarpi", 1));
+      const store = database.transaction("files").objectStore("files");
+      const [names, contents] = await Promise.all([wait(store.getAllKeys()), wait(store.getAll())]);
+      database.close();
+      return Object.fromEntries(names.map((name, i) => [name, String.fromCharCode(...contents[i])]));
+    });
+  }
+}
+
+/** Random numbers and a date that are the same every time, so that a game takes the same course. */
+export function fixed(seed) {
+  return `(() => {
+    let state = ${seed};
+    crypto.getRandomValues = (array) => array.fill((state = (state * 1103515245 + 12345) >>> 0));
+    const Real = Date;
+    globalThis.Date = class extends Real { constructor(...a) { super(...(a.length ? a : [2026, 10, 23, 10, 0, 0])); } };
+  })()`;
+}

@@ -1,0 +1,367 @@
+// The game in Chromium as its players have it: by keyboard, by mouse, by touch; what it stores, prints, says.
+
+import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
+import { mkdtemp, readdir, readFile, rm } from "node:fs/promises";
+import { createRequire } from "node:module";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { after, afterEach, before, beforeEach, test } from "node:test";
+import { fixed, launch, PHONE, Player, serve } from "./page.mjs";
+import { look, playToTheEnd } from "./solver.mjs";
+
+const WINNING_SEED = 2; // a game that the solver wins
+const pause = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
+
+let server;
+let chromium;
+let players;
+
+before(async () => (server = await serve()));
+after(() => server.close());
+beforeEach(async () => {
+  chromium = await launch();
+  players = [];
+});
+afterEach(async () => {
+  await chromium.close();
+  assert.deepEqual(players.flatMap((player) => player.faults), []);
+});
+
+async function enter(options) {
+  const player = await Player.enter(chromium.browser, server.address, options);
+  players.push(player);
+  return player;
+}
+
+/** Plays until word 3 comes up, from which on a game can be saved. */
+async function playToWordThree(player) {
+  await player.startGame("Peña");
+  const reached = new Error("word 3");
+  const onWord = (number) => {
+    if (number === "3") throw reached;
+  };
+  await playToTheEnd(player.page, (letter) => player.press(letter.toLowerCase()), onWord).catch((error) => {
+    if (error !== reached) throw error;
+  });
+}
+
+async function saveGame(player, password) {
+  await player.shortcut("G");
+  await player.front("frmGuardar");
+  await player.page.keyboard.type(password);
+  await player.press("Tab");
+  await player.page.keyboard.type(password);
+  await player.press("Enter");
+}
+
+async function printed(player) {
+  await player.page.evaluate(() => (globalThis.print = () => (globalThis.hasPrinted = true)));
+  await player.click("frmDiploma.cmdImprimir");
+  await player.page.waitForSelector("dialog.message");
+  await player.press("Enter");
+  await player.page.waitForFunction(() => globalThis.hasPrinted);
+  const folder = await mkdtemp(join(tmpdir(), "zarpi-print-"));
+  const path = join(folder, "diploma.pdf");
+  await player.page.pdf({ path, preferCSSPageSize: true, printBackground: true });
+  const facts = execFileSync("pdfinfo", [path], { encoding: "utf8" });
+  const text = execFileSync("pdftotext", [path, "-"], { encoding: "utf8" });
+  await rm(folder, { recursive: true });
+  return { facts, text };
+}
+
+test("a whole game by keyboard, won: victory, diploma on paper, board, and the board is there the next day", async () => {
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await player.startGame("Ana y Íñigo");
+  const { won } = await playToTheEnd(player.page, (letter) => player.press(letter.toLowerCase()));
+  assert.ok(won);
+  await player.press("Enter");
+  await player.front("frmDiploma");
+  for (let i = 0; i < 75; ++i) await player.press("ArrowLeft");
+  const { facts, text } = await printed(player);
+  assert.match(facts, /Pages: +1\n/);
+  const [, width, height] = facts.match(/Page size: +([\d.]+) x ([\d.]+)/);
+  assert.ok(Number(width) > Number(height), "on its side");
+  assert.match(text, /IMPRIMIR/);
+  await player.press("Escape");
+  await player.front("frmCuadro");
+  await player.page.reload();
+  await player.page.waitForSelector("#frmPresenta");
+  await player.press("Space");
+  await player.menu("mnuCuadros", "mnuCasteInglésHonor");
+  await player.front("frmCuadro");
+  assert.match(await player.page.$eval("#frmCuadro .client", (node) => node.innerText), /Ana y Íñigo/);
+  assert.equal((await player.files())["UltCeI.dat"], " 1 \r\n");
+});
+
+test("a game by mouse, with a joker and the keys on the screen, to the fall", async () => {
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await player.page.click("#frmPresenta .client");
+  await player.menu("mnuJuego", "mnuNuevo");
+  await player.click("frmNivel.cmdAceptar");
+  await player.page.click("#frmNombre .cross");
+  await player.front("Zarpi");
+  await player.click("Zarpi.cmdMostrar");
+  const { letters } = await look(player.page);
+  await player.click("Zarpi.lblComodín(1)");
+  const boxes = await player.page.$$eval('[id^="Zarpi.shpRecuadro"]:not([hidden])', (nodes) => nodes.map((node) => node.id));
+  await player.click(boxes[letters.indexOf("_")].replace("shpRecuadro", "lblLetra"));
+  assert.notEqual((await look(player.page)).letters, letters);
+  for (const index of [19, 20, 8, 22, 12, 18, 14, 21, 7, 6, 15]) {
+    if (/Fin de juego/.test((await look(player.page)).message)) break;
+    await (await player.page.$(`[id="Zarpi.lblTecla(${index})"]`)).click().catch(() => {});
+    await pause(700);
+  }
+  await player.shows("Zarpi.Label5", /Fin de juego/);
+  await player.shows("Zarpi.lblComentCaída", /[A-Z¡¿]{3}/);
+  assert.equal(await player.see("Zarpi.lblTecla(1)"), null);
+});
+
+test("a game by touch on a phone held upright, to its end", async () => {
+  const player = await enter({ viewport: PHONE, prepare: fixed(WINNING_SEED) });
+  await player.page.tap("#frmPresenta .client");
+  await player.page.tap('[data-menu="mnuJuego"]');
+  await player.page.tap('[data-menu="mnuNuevo"]');
+  await player.tap("frmNivel.cmdAceptar");
+  await player.tap("frmNombre.cmdAceptar");
+  await player.element("Zarpi.lblTecla(1)"); // the keyboard has opened by itself
+  const measure = (nodes) =>
+    nodes.map((node) => node.getBoundingClientRect()).map(({ left, right, top, bottom }) => ({ left, right, top, bottom }));
+  const keys = await player.page.$$eval('[id^="Zarpi.lblTecla("]', measure);
+  assert.equal(keys.length, 27);
+  for (const { left, right, top, bottom } of keys) {
+    assert.ok(right - left >= 44 && bottom - top >= 44, "as large as a finger");
+    assert.ok(left >= 0 && right <= PHONE.width && top >= 0 && bottom <= PHONE.height, "on the screen");
+  }
+  const index = (letter) => "BCDFGHJKLMNÑPQRSTVWXYZAEIOU".indexOf(letter) + 1;
+  const enterLetter = async (letter) => {
+    const key = await player.page.$(`[id="Zarpi.lblTecla(${index(letter)})"]`);
+    await key.tap();
+  };
+  const reached = new Error("enough");
+  const toWordFour = async (number) => {
+    assert.equal(await player.page.evaluate(() => document.activeElement.matches("input")), false, "no device keyboard");
+    if (number === "4") throw reached;
+  };
+  await playToTheEnd(player.page, enterLetter, toWordFour).catch((error) => error === reached || assert.fail(error));
+  for (const letter of "WKJXZÑQVYHFGBP") {
+    if (/Fin de juego/.test((await look(player.page)).message)) break;
+    await enterLetter(letter).catch(() => {});
+    await pause(600);
+  }
+  await player.shows("Zarpi.Label5", /Fin de juego|acertada/);
+});
+
+test("a game is saved, the page closed, and taken up again with its password", async () => {
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await playToWordThree(player);
+  await player.shortcut("G");
+  await player.front("frmGuardar");
+  await player.press("Enter"); // without a password: a message box, and the dialog stays
+  await player.page.waitForSelector("dialog.message");
+  await player.press("Enter");
+  await player.press("Escape");
+  await player.front("Zarpi");
+  await saveGame(player, "Piñata");
+  await player.front("Zarpi");
+  const files = await player.files();
+  assert.equal(files["Ultimo.dat"], " 1 \r\n");
+  assert.equal(files["Guardar.rnd"].length, 65);
+  assert.match(files["Guardar.rnd"], /Pe\xf1a/);
+  await player.page.reload();
+  await player.page.waitForSelector("#frmPresenta");
+  await player.press("Space");
+  await player.shortcut("R");
+  await player.front("frmReanudar");
+  await player.page.click("#frmReanudar [role=option]");
+  await player.click("frmReanudar.txtContraseña");
+  await player.page.keyboard.type("Piñata");
+  await player.press("Enter");
+  await player.front("Zarpi");
+  assert.equal(await player.see("Zarpi.lblPalabra"), "3");
+  assert.equal(await player.see("Zarpi.lblNombre"), "Peña");
+  assert.equal((await player.files())["Ultimo.dat"], " 0 \r\n");
+});
+
+/** In the page: counts the storage operations from the first save on and stops everything at number `last`. */
+function stopAt(last) {
+  return `(() => {
+    let count = 0;
+    const stop = () => { if (globalThis.saving && ++count === ${last}) { console.log("stopped"); for (;;); } };
+    for (const [type, name] of [[IDBObjectStore, "put"], [IDBObjectStore, "delete"], [IDBDatabase, "transaction"]]) {
+      const real = type.prototype[name];
+      type.prototype[name] = function (...a) { stop(); const result = real.apply(this, a); stop(); return result; };
+    }
+  })()`;
+}
+
+/** Ends the processes that hold the tabs, at once. */
+async function killTabs(browser) {
+  const session = await browser.target().createCDPSession();
+  const { processInfo } = await session.send("SystemInfo.getProcessInfo");
+  for (const { type, id } of processInfo) if (type === "renderer") process.kill(id, "SIGKILL");
+  await pause(300);
+}
+
+test("a tab killed at any operation of the storage leaves the old state or the new", async () => {
+  const outcomes = new Set();
+  for (let last = 1; last <= 12; ++last) {
+    const player = await Player.enter(chromium.browser, server.address, {
+      prepare: `${fixed(WINNING_SEED)}; ${stopAt(last)}`,
+    });
+    await playToWordThree(player);
+    const stopped = new Promise((done) => player.page.on("console", (line) => line.text() === "stopped" && done(true)));
+    await player.page.evaluate(() => (globalThis.saving = true));
+    saveGame(player, "clave").catch(() => {});
+    const isStopped = await Promise.race([stopped, pause(2500)]);
+    await killTabs(chromium.browser);
+    await player.page.close().catch(() => {});
+    const next = await enter();
+    const { "Ultimo.dat": counter, "Guardar.rnd": records = "", "Diario.tmp": journal } = await next.files();
+    assert.equal(journal, undefined);
+    assert.equal(records.length, counter === " 1 \r\n" ? 65 : 0, `operation ${last}`);
+    outcomes.add(counter);
+    await next.press("Space");
+    await next.front("Zarpi");
+    assert.equal(await next.see("Zarpi.lblMensajeError"), null);
+    await next.page.evaluate(async () => {
+      const request = indexedDB.deleteDatabase("zarpi");
+      await new Promise((done) => (request.onblocked = request.onsuccess = done));
+    });
+    await next.page.close();
+    if (!isStopped) break;
+  }
+  assert.deepEqual([...outcomes].sort(), [" 0 \r\n", " 1 \r\n"]);
+});
+
+test("what cannot be stored is told, the game goes on, and it is stored as soon as that can be", async () => {
+  const refuse = `{
+    const put = IDBObjectStore.prototype.put;
+    IDBObjectStore.prototype.put = function (...a) {
+      if (globalThis.isFull) throw new DOMException("full", "QuotaExceededError");
+      return put.apply(this, a);
+    };
+  }`;
+  const player = await enter({ prepare: `${fixed(WINNING_SEED)}; ${refuse}` });
+  await playToWordThree(player);
+  await player.page.evaluate(() => (globalThis.isFull = true));
+  await saveGame(player, "clave");
+  await player.element("Zarpi.lblMensajeError");
+  assert.equal((await player.files())["Ultimo.dat"], " 0 \r\n");
+  await player.page.evaluate(() => (globalThis.isFull = false));
+  await player.press("F1");
+  await pause(200);
+  assert.equal((await player.files())["Ultimo.dat"], " 1 \r\n");
+});
+
+test("a browser that forbids storage says so, and plays", async () => {
+  const forbid = 'IDBFactory.prototype.open = () => { throw new DOMException("no", "SecurityError"); }';
+  const player = await enter({ prepare: forbid });
+  await player.page.waitForSelector("dialog.message");
+  await player.press("Enter");
+  await player.startGame("Ana");
+  assert.equal(await player.see("Zarpi.lblPalabra"), "1");
+});
+
+test("a second tab says that the game is open, and leaves the files alone", async () => {
+  await enter();
+  const second = await chromium.browser.newPage();
+  await second.goto(server.address);
+  await second.waitForFunction(() => /otra pestaña/.test(document.body.innerText));
+});
+
+test("the records leave the browser as the files of the desktop, and come into another one", async () => {
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await playToWordThree(player);
+  await saveGame(player, "clave");
+  await player.front("Zarpi");
+  const folder = await mkdtemp(join(tmpdir(), "zarpi-records-"));
+  const session = await player.page.createCDPSession();
+  await session.send("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: folder });
+  await player.page.click("#help");
+  await player.page.click(".files button");
+  const archive = join(folder, "zarpi-partidas.zip");
+  for (let i = 0; i < 50 && !(await readdir(folder)).includes("zarpi-partidas.zip"); ++i) await pause(100);
+  const stored = await player.files();
+  execFileSync("unzip", ["-q", archive, "-d", folder]);
+  for (const [name, content] of Object.entries(stored)) {
+    assert.equal((await readFile(join(folder, name))).toString("latin1"), content, name);
+  }
+  execFileSync("zip", ["-q", "-j", "otro.zip", "Ultimo.dat", "Guardar.rnd"], { cwd: folder }); // compressed
+  const other = await launch();
+  try {
+    const guest = await Player.enter(other.browser, server.address);
+    await guest.press("Space");
+    await guest.page.click("#help");
+    await (await guest.page.$(".files input")).uploadFile(join(folder, "otro.zip"));
+    await guest.page.waitForFunction(() => document.querySelectorAll("dialog.message").length === 2);
+    await Promise.all([guest.page.waitForNavigation(), guest.press("Enter")]);
+    await guest.page.waitForSelector("#frmPresenta");
+    await guest.press("Space");
+    await guest.menu("mnuJuego", "mnuReanudar");
+    await guest.front("frmReanudar");
+    assert.match(await guest.see("frmReanudar.lstLista"), /Peña/);
+  } finally {
+    await other.close();
+    await rm(folder, { recursive: true });
+  }
+});
+
+test("without a network the game starts and plays", async () => {
+  const player = await enter();
+  await player.page.evaluate(() => navigator.serviceWorker.ready);
+  await player.page.waitForNetworkIdle();
+  await player.page.setOfflineMode(true);
+  await player.page.reload();
+  await player.page.waitForSelector("#frmPresenta .picture");
+  await player.startGame("Ana");
+  assert.equal(await player.see("Zarpi.lblPalabra"), "1");
+});
+
+async function pressÑ(page) {
+  const session = await page.createCDPSession();
+  await session.send("Input.dispatchKeyEvent", { type: "keyDown", key: "ñ", code: "Semicolon", text: "ñ" });
+}
+
+const CHARACTERS = [
+  // what the keyboard sends, and the letter that is tried
+  { name: "ñ", press: pressÑ, tried: "Ñ" },
+  { name: "an input method", press: (page) => page.keyboard.sendCharacter("W"), tried: "W" },
+  { name: "capital letter", press: (page) => page.keyboard.press("K"), tried: "K" },
+];
+
+test("letters arrive in whatever way the keyboard sends them", async () => {
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await player.startGame("Ana");
+  for (const { name, press, tried } of CHARACTERS) {
+    await press(player.page);
+    const { letters, missed } = await look(player.page);
+    assert.ok((letters + missed).includes(tried), name);
+  }
+});
+
+test("people who hear or cannot use a mouse: no serious findings, names, sentences told, menus by keys", async () => {
+  const axe = createRequire(import.meta.url).resolve("axe-core/axe.min.js");
+  const player = await enter({ prepare: fixed(WINNING_SEED) });
+  await player.page.setBypassCSP(true);
+  const findings = async (where) => {
+    await player.page.evaluate(await readFile(axe, "utf8"));
+    const { violations } = await player.page.evaluate(() => globalThis.axe.run());
+    const serious = violations.filter(({ impact }) => impact === "serious" || impact === "critical");
+    assert.deepEqual(serious.map(({ id, nodes }) => [where, id, nodes[0].html]), []);
+  };
+  await findings("presentation");
+  await player.startGame("Ana");
+  await findings("a word");
+  await player.click("Zarpi.cmdMostrar");
+  const tree = JSON.stringify(await player.page.accessibility.snapshot());
+  for (const name of ["Tecla B", "Tecla Ñ", "Ocultar el teclado de la pantalla", "Juego", "Letra 2 de 7, vacía"]) {
+    assert.match(tree, new RegExp(`"(button|menuitem)","name":"${name}"`), name);
+  }
+  await player.press("w");
+  const told = await player.page.$eval("#Zarpi .spoken", (node) => node.innerText);
+  assert.match(told, /Mal: W/);
+  await player.press("F10", "ArrowLeft", "ArrowDown", "Enter");
+  await player.front("frmNormas");
+  await findings("rules");
+});

@@ -1,0 +1,55 @@
+// The page's own dialogs: what the program asks, and the end of the game.
+
+function make(tag, text, parent) {
+  const node = document.createElement(tag);
+  node.textContent = text;
+  parent.append(node);
+  return node;
+}
+
+/**
+ * Asks with a list of buttons; the first is the default one, and the last is meant by Esc. Comes back with the number of
+ * the button. `content` is a text or a node.
+ */
+export function ask(title, content, buttons) {
+  const dialog = make("dialog", "", document.body);
+  dialog.className = "message";
+  dialog.setAttribute("aria-label", title);
+  make("h1", title, dialog);
+  if (typeof content === "string") make("p", content, dialog);
+  else dialog.append(content);
+  const row = make("div", "", dialog);
+  row.className = "buttons";
+  return new Promise((resolve) => {
+    const close = (number) => {
+      dialog.close();
+      dialog.remove();
+      resolve(number);
+    };
+    buttons.forEach((caption, i) => {
+      const button = make("button", caption, row);
+      button.type = "button";
+      button.addEventListener("click", () => close(i));
+    });
+    dialog.addEventListener("cancel", (event) => {
+      event.preventDefault();
+      close(buttons.length - 1);
+    });
+    dialog.showModal();
+    row.firstChild.focus();
+  });
+}
+
+/** Fills the page with a last word and a button to start again. */
+export function showEnd(title, text) {
+  for (const dialog of document.querySelectorAll("dialog")) dialog.remove();
+  const desk = document.getElementById("desk");
+  desk.replaceChildren();
+  desk.className = "end";
+  make("h1", title, desk);
+  if (text) make("p", text, desk);
+  const again = make("button", "Jugar otra vez", desk);
+  again.type = "button";
+  again.addEventListener("click", () => location.reload());
+  again.focus();
+}

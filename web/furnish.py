@@ -1,0 +1,110 @@
+#!/usr/bin/env python3
+"""Puts the files of the page into one folder, pictures and fonts made small for the way through the network.
+
+    furnish.py ASSETS PAGE PROGRAM SITE
+
+ASSETS is the folder of the game's pictures and sounds, PAGE that of the page's own files, PROGRAM the program. Writes
+SITE/assets.json, which tells the page what there is, and the list of files into SITE/worker.js.
+"""
+
+import hashlib
+import json
+import shutil
+import sys
+from pathlib import Path
+
+from fontTools import subset
+from PIL import Image
+
+FONTS = Path("/usr/share/fonts/truetype/liberation")
+FONT_FILES = {
+    "sans": "LiberationSans-Regular.ttf",
+    "sans-bold": "LiberationSans-Bold.ttf",
+    "mono-bold": "LiberationMono-Bold.ttf",
+    "serif-bold": "LiberationSerif-Bold.ttf",
+}
+QUALITY = 82
+ICON_SIZES = (32, 256)
+MUSIC = "ogg"
+
+
+def picture_sources(assets: Path):
+    """Name and path of each picture of single size, those stored with forms and those opened by name."""
+    for path in sorted(assets.glob("forms/*")) + sorted(assets.glob("game/*.bmp")):
+        if not path.stem.endswith("@2x"):
+            yield path.stem, path
+
+
+def write_webp(source: Path, target: Path):
+    with Image.open(source) as image:
+        has_alpha = image.mode in ("RGBA", "P", "LA")
+        image.convert("RGBA" if has_alpha else "RGB").save(target, "WEBP", quality=QUALITY, method=6)
+        return image.size
+
+
+def furnish_pictures(assets: Path, site: Path):
+    folder = site / "pictures"
+    folder.mkdir()
+    for size in ICON_SIZES:
+        shutil.copy(assets / f"icons/hicolor/{size}x{size}/apps/zarpi.png", folder / f"icon{size}.png")
+    pictures = {}
+    for name, path in picture_sources(assets):
+        width, height = write_webp(path, folder / f"{name}.webp")
+        pictures[name] = {"width": width, "height": height, "single": f"pictures/{name}.webp"}
+        for twice in sorted(path.parent.glob(f"{name}@2x.*")):
+            write_webp(twice, folder / f"{name}@2x.webp")
+            pictures[name]["double"] = f"pictures/{name}@2x.webp"
+    return pictures
+
+
+def furnish_sounds(assets: Path, site: Path):
+    """The sounds by the names that the game uses; music is there under another ending."""
+    folder = site / "sounds"
+    folder.mkdir()
+    sounds = {}
+    for path in sorted(assets.glob("game/*.wav")) + sorted(assets.glob(f"game/*.{MUSIC}")):
+        name = path.name if path.suffix == ".wav" else path.stem + ".mid"
+        shutil.copy(path, folder)
+        sounds[name] = f"sounds/{path.name}"
+    return sounds
+
+
+def furnish_fonts(site: Path):
+    """The characters of Windows-1252, all that the game can show."""
+    characters = bytes(code for code in range(32, 256) if code not in (127, 129, 141, 143, 144, 157)).decode("cp1252")
+    (site / "fonts").mkdir()
+    for name, file in FONT_FILES.items():
+        options = subset.Options(flavor="woff2", hinting=False, layout_features=["kern"], desubroutinize=True)
+        font = subset.load_font(str(FONTS / file), options)
+        subsetter = subset.Subsetter(options)
+        subsetter.populate(text=characters + "▲▼…✓✕")
+        subsetter.subset(font)
+        subset.save_font(font, str(site / "fonts" / f"{name}.woff2"), options)
+
+
+def write_worker(page: Path, site: Path):
+    """The worker keeps all files but the music, which it keeps when it has been heard."""
+    files = sorted(path for path in site.rglob("*") if path.is_file() and path.suffix != f".{MUSIC}")
+    digest = hashlib.sha256()
+    for path in files:
+        digest.update(path.read_bytes())
+    names = ["./"] + [path.relative_to(site).as_posix() for path in files]
+    head = f'const VERSION = "{digest.hexdigest()[:16]}";\nconst FILES = {json.dumps(names, ensure_ascii=False)};\n\n'
+    (site / "worker.js").write_text(head + (page / "worker.js").read_text())
+
+
+def main():
+    assets, page, program, site = map(Path, sys.argv[1:])
+    shutil.rmtree(site, ignore_errors=True)
+    site.mkdir(parents=True)
+    for path in sorted(page.iterdir()):
+        if path.suffix in (".html", ".css", ".js", ".json") and path.name != "worker.js":
+            shutil.copy(path, site)
+    shutil.copy(program, site / "zarpi.wasm")
+    contents = {"pictures": furnish_pictures(assets, site), "sounds": furnish_sounds(assets, site)}
+    (site / "assets.json").write_text(json.dumps(contents, ensure_ascii=False))
+    furnish_fonts(site)
+    write_worker(page, site)
+
+
+main()

@@ -1,0 +1,87 @@
+// The page's help: the keys that a browser needs, and the player's files, to take along and to bring back.
+
+import { pack, unpack } from "./archive.js";
+import { ask } from "./dialogs.js";
+
+const RECORDS = /^[A-Za-z]{3,8}\.(dat|rnd)$/;
+
+const KEYS = [
+  ["Mayús+Alt y la letra", "hace lo mismo que Ctrl y la letra. El navegador se guarda Ctrl+N para sí: usa Mayús+Alt+N"],
+  ["F10, o Alt y la letra subrayada", "abre los menús; dentro, flechas, Intro y Esc"],
+  ["F1 a F5", "el tiempo por palabra"],
+  ["Tab", "va por los botones y los menús"],
+  ["Las flechas en una pantalla táctil", "arrastra el dedo hacia un lado"],
+];
+
+function make(tag, text, parent) {
+  const node = document.createElement(tag);
+  node.textContent = text;
+  parent.append(node);
+  return node;
+}
+
+function download(storage) {
+  const records = new Map([...storage.files].filter(([name]) => RECORDS.test(name)));
+  const link = document.createElement("a");
+  link.href = URL.createObjectURL(pack(records));
+  link.download = "zarpi-partidas.zip";
+  link.click();
+  setTimeout(() => URL.revokeObjectURL(link.href), 10000);
+}
+
+async function readRecords(chosen) {
+  const files = new Map();
+  for (const file of chosen) {
+    const buffer = await file.arrayBuffer();
+    const found = file.name.endsWith(".zip") ? await unpack(buffer) : new Map([[file.name, new Uint8Array(buffer)]]);
+    for (const [name, bytes] of found) if (RECORDS.test(name)) files.set(name, bytes);
+  }
+  return files;
+}
+
+async function bringBack(chosen, storage) {
+  const files = await readRecords(chosen).catch(() => new Map());
+  if (files.size === 0) return ask("Tus archivos", "Ahí no hay partidas del juego de Zarpi.", ["Aceptar"]);
+  const sure = await ask(
+    "Tus archivos",
+    "Las partidas y los cuadros de honor que traes ocuparán el lugar de los que hay aquí, y el juego empezará de nuevo.",
+    ["Traer", "Cancelar"],
+  );
+  if (sure !== 0) return;
+  storage.replaceAll(files);
+  if (await storage.commit()) location.reload();
+  else await ask("Tus archivos", "No se han podido guardar.", ["Aceptar"]);
+}
+
+function fileButtons(storage) {
+  const row = document.createElement("div");
+  row.className = "files";
+  const take = make("button", "Descargar tus archivos", row);
+  take.type = "button";
+  take.addEventListener("click", () => download(storage));
+  const label = make("label", "Traer archivos…", row);
+  const input = make("input", "", label);
+  input.type = "file";
+  input.multiple = true;
+  input.accept = ".zip,.dat,.rnd";
+  input.addEventListener("change", () => bringBack(input.files, storage));
+  return row;
+}
+
+/** Shows the help until the player closes it. */
+export async function showHelp(storage) {
+  const content = document.createElement("div");
+  make("h2", "Teclas en el navegador", content);
+  const list = make("dl", "", content);
+  for (const [keys, what] of KEYS) {
+    make("dt", keys, list);
+    make("dd", what, list);
+  }
+  make("h2", "Tus archivos", content);
+  const where = storage.keeps
+    ? "Las partidas guardadas y los cuadros de honor están en este navegador. Descárgalos para llevarlos a otro, o al juego de escritorio: son los mismos archivos."
+    : "Este navegador no deja guardar nada: lo que guardes se perderá al cerrar la página.";
+  make("p", where, content);
+  content.append(fileButtons(storage));
+  await ask("El juego de Zarpi en el navegador", content, ["Cerrar"]);
+}

@@ -1,0 +1,32 @@
+// Key presses as the program takes them: a code, a character, and whether Ctrl was held.
+
+const CODES = { Enter: 13, Escape: 27, " ": 32, ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 };
+const CHARACTERS = { Enter: 13, Escape: 27, Backspace: 8 };
+const F1 = 112;
+
+/** The key of a character: letters and digits have a code of their own. */
+export function keyOfCharacter(character) {
+  const upper = character.toUpperCase();
+  const hasCode = /^[\p{L}\p{N}]$/u.test(upper) && upper.charCodeAt(0) < 0x100;
+  return [hasCode ? upper.charCodeAt(0) : (CODES[character] ?? 0), character.charCodeAt(0), 0];
+}
+
+/** The letter of a shortcut: held with Ctrl, or with Shift and Alt where the browser keeps Ctrl for itself. */
+export function shortcutLetter(event) {
+  const meant = event.ctrlKey !== (event.shiftKey && event.altKey) && !(event.ctrlKey && event.altKey) && !event.metaKey;
+  const letter = /^Key[A-Z]$/.test(event.code) && event.altKey ? event.code.slice(3) : event.key.toUpperCase();
+  return meant && /^[A-Z]$/.test(letter) ? letter : null;
+}
+
+/** The key of a press; null for one that types nothing and means nothing here, or waits for its letter. */
+export function keyOfPress(event) {
+  const letter = shortcutLetter(event);
+  if (letter !== null) return [letter.charCodeAt(0), letter.charCodeAt(0) - 64, 1];
+  const typesWithAlt = event.getModifierState("AltGraph");
+  if (event.metaKey || ((event.altKey || event.ctrlKey) && !typesWithAlt)) return null;
+  if (event.key.length === 1) return keyOfCharacter(event.key);
+  const number = event.key.match(/^F([1-9]|1[0-2])$/)?.[1];
+  const code = number ? F1 + Number(number) - 1 : (CODES[event.key] ?? 0);
+  const character = CHARACTERS[event.key] ?? 0;
+  return code === 0 && character === 0 ? null : [code, character, 0];
+}

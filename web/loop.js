@@ -1,0 +1,91 @@
+// The road of an event: into the program, what it wrote into the storage, what it changed onto the page.
+
+import { pictureSize } from "./pictures.js";
+
+/** Events behind which there is no player: they do not try again to store what could not be stored. */
+const OWN_EVENTS = ["tick", "unsaved"];
+
+export class Loop {
+  #program;
+  #storage;
+  #show;
+  #message = [];
+  #queue = [];
+  #storing = false;
+  #ended = false;
+  #timer = 0;
+  #unsaved = false; // something could not be stored yet
+
+  /** `show` takes the list of objects that the program tells after an event; `end` is called when it has ended. */
+  constructor(storage, show, end) {
+    this.#storage = storage;
+    this.#show = show;
+    this.end = end;
+  }
+
+  /** The program's way to the page, for Program.load. */
+  get page() {
+    return {
+      tell: (objects) => this.#message.push(...objects),
+      store: (name, bytes) => this.#storage.store(name, bytes),
+      remove: (name) => this.#storage.remove(name),
+      storedFiles: () => this.#storage.files,
+      pictureSize,
+    };
+  }
+
+  start(program) {
+    this.#program = program;
+    this.#settle(program.start(), "start");
+  }
+
+  /** Whether an event is taken at once; otherwise it waits until what was written is stored. */
+  get isReady() {
+    return !this.#storing && !this.#ended;
+  }
+
+  /** Gives an event to the program. True if the program leaves a key to the element that has the focus. */
+  send(...event) {
+    if (this.#ended) return false;
+    if (this.#storing) {
+      this.#queue.push(event);
+      return false;
+    }
+    const goesOn = this.#program.send(event);
+    const leaves = this.#message.some((object) => object.do === "leaveKey");
+    this.#settle(goesOn, event[0]);
+    return leaves;
+  }
+
+  #settle(goesOn, event) {
+    this.#ended = !goesOn;
+    const retries = this.#unsaved && !OWN_EVENTS.includes(event);
+    if (this.#storage.hasNews || retries) this.#storeAndShow();
+    else this.#showMessage();
+  }
+
+  /** A failure is told once, until what could not be stored has been. */
+  async #storeAndShow() {
+    this.#storing = true;
+    const stored = await this.#storage.commit();
+    this.#storing = false;
+    this.#showMessage();
+    const isNew = !stored && !this.#unsaved;
+    this.#unsaved = !stored;
+    if (isNew) this.send("unsaved");
+    while (!this.#storing && this.#queue.length > 0) this.send(...this.#queue.shift());
+  }
+
+  #showMessage() {
+    const message = this.#message;
+    this.#message = [];
+    clearTimeout(this.#timer);
+    this.#show(message);
+    if (this.#ended) {
+      this.end();
+      return;
+    }
+    const wake = message.findLast((object) => object.do === "wake");
+    if (wake?.after !== undefined) this.#timer = setTimeout(() => this.send("tick"), wake.after);
+  }
+}

@@ -1,0 +1,171 @@
+// Puts the page together: storage, program, windows, keys, sound.
+
+import { ask, showEnd } from "./dialogs.js";
+import { showHelp } from "./help.js";
+import { keyOfCharacter, keyOfPress, shortcutLetter } from "./keys.js";
+import { Loop } from "./loop.js";
+import { loadAll, setPictures } from "./pictures.js";
+import { printWindow } from "./printing.js";
+import { Program } from "./program.js";
+import { Sound } from "./sound.js";
+import { lockStorage, Storage } from "./storage.js";
+import { loadFonts } from "./text.js";
+import { Window } from "./window.js";
+
+/** A device that is played with fingers alone. */
+const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
+
+class Page {
+  #windows = new Map();
+  #keyboard = false; // to be opened when the main window is in front
+
+  constructor(storage, assets) {
+    this.sound = new Sound(assets.sounds);
+    this.storage = storage;
+    this.loop = new Loop(storage, (message) => this.#show(message), () => showEnd("Fin", "Gracias por jugar."));
+  }
+
+  get front() {
+    return [...this.#windows.values()].at(-1);
+  }
+
+  listen() {
+    addEventListener("keydown", (event) => this.#key(event));
+    addEventListener("resize", () => this.#resize());
+    for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
+    const help = document.getElementById("help");
+    help.addEventListener("click", async () => {
+      await showHelp(this.storage);
+      this.front?.takeFocus();
+    });
+  }
+
+  #show(message) {
+    for (const object of message) this.#deeds[object.do]?.(object);
+    if (this.front && !this.front.hasFocus && !document.querySelector("dialog.message")) this.front.takeFocus();
+    this.#openKeyboard();
+  }
+
+  #deeds = {
+    open: ({ form, modal }) => this.#open(form, modal),
+    close: ({ form }) => this.#close(form),
+    form: (state) => {
+      this.#windows.get(state.form).showForm(state);
+      document.title = state.caption;
+    },
+    menu: (state) => this.#windows.get(state.form).showMenu(state),
+    element: (state) => {
+      const window = this.#windows.get(state.form);
+      const before = window.stateOf(state.name);
+      window.showElement(state);
+      this.#noteKeyboard(window, state, before);
+    },
+    layers: ({ form, names }) => this.#windows.get(form).showLayers(names),
+    focus: ({ form, name }) => this.#windows.get(form).showFocus(name),
+    say: ({ text }) => this.front?.say(text),
+    beep: () => this.sound.beep(),
+    play: ({ channel, file, overMusic }) => this.sound.play(channel, file, overMusic),
+    stop: ({ channel }) => this.sound.stop(channel),
+    message: ({ text, title }) => this.#answer(ask(title, text, ["Aceptar"])),
+    askPrinter: () => this.#answer(ask("Imprimir", "Se imprimirá esta ventana, en una página apaisada.", ["Imprimir", "Cancelar"])),
+    print: ({ form }) => printWindow(this.#windows.get(form)),
+    navigate: ({ address }) => open(/^https?:/.test(address) ? address : `https://${address}`, "_blank", "noopener"),
+  };
+
+  #open(form, modal) {
+    const window = new Window(form, modal, (...event) => this.loop.send(...event));
+    window.onCharacter = (character) => this.loop.send("key", ...keyOfCharacter(character));
+    this.#windows.set(form, window);
+    // The window comes up when all of it has been told.
+    queueMicrotask(() => this.#windows.get(form) === window && window.open());
+  }
+
+  #close(form) {
+    this.#windows.get(form)?.close();
+    this.#windows.delete(form);
+    if (this.front) {
+      document.title = this.front.node.getAttribute("aria-label");
+      this.front.takeFocus();
+    }
+  }
+
+  async #answer(asked) {
+    const number = await asked;
+    this.front?.takeFocus();
+    this.loop.send("answer", number === 0 ? "1" : "0");
+  }
+
+  /** Where there is no keyboard, the one on the screen opens by itself as soon as the program offers it. */
+  #noteKeyboard(window, state, before) {
+    if (state.name !== "cmdMostrar" || !FINGERS.matches) return;
+    const offered = (told) => told !== undefined && told.visible && told.enabled;
+    this.#keyboard = offered(state) && (this.#keyboard || (!offered(before) && !window.stateOf("cmdOcultar")?.visible));
+  }
+
+  #openKeyboard() {
+    if (!this.#keyboard || this.front?.stateOf("cmdMostrar") === undefined) return;
+    this.#keyboard = false;
+    const { name } = this.front;
+    setTimeout(() => this.loop.send("click", name, "cmdMostrar"));
+  }
+
+  #resize() {
+    for (const window of this.#windows.values()) window.resize();
+  }
+
+  #key(event) {
+    const { front } = this;
+    if (!front || document.querySelector("dialog.message") || event.isComposing) return;
+    if (this.#openMenus(event)) return event.preventDefault();
+    const key = keyOfPress(event);
+    if (key === null || event.key === "Tab") return;
+    const edits = event.target.matches(".textBox") && key[0] !== 13 && key[0] !== 27;
+    if (!this.loop.isReady && edits) return;
+    const leaves = this.loop.send("key", ...key.map(String));
+    if (leaves && (edits || front.moveInList(event.key))) return this.#keepPage(event, edits);
+    if (!leaves || !this.#belongsToBrowser(event)) event.preventDefault();
+  }
+
+  #keepPage(event, edits) {
+    if (!edits || /^F\d/.test(event.key)) event.preventDefault();
+  }
+
+  /** Combinations that mean nothing to the game are the browser's. */
+  #belongsToBrowser(event) {
+    const letter = shortcutLetter(event);
+    if (letter === null) return event.ctrlKey || event.metaKey || /^F([6-9]|1\d)$/.test(event.key);
+    return ![...this.#windows.values()].some((window) => window.menus?.hasShortcut(`Ctrl+${letter}`));
+  }
+
+  #openMenus(event) {
+    const { menus } = this.front;
+    if (!menus || event.ctrlKey || event.metaKey || event.shiftKey) return false;
+    if (event.key === "F10") menus.focus();
+    else return event.altKey && !event.getModifierState("AltGraph") && menus.openByLetter(event.key.toLowerCase());
+    return true;
+  }
+}
+
+async function loadAssets() {
+  return (await fetch("assets.json")).json();
+}
+
+async function start() {
+  const [alone, storage, assets] = await Promise.all([lockStorage(), Storage.open(), loadAssets(), loadFonts()]);
+  if (!alone) return showEnd("El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella.");
+  setPictures(assets.pictures);
+  const page = new Page(storage, assets);
+  const program = await Program.load("zarpi.wasm", page.loop.page);
+  document.getElementById("loading")?.remove();
+  page.listen();
+  page.loop.start(program);
+  if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
+  requestIdleCallback?.(() => loadAll(page.front?.twip ?? 1 / 15));
+  navigator.serviceWorker?.register("worker.js").catch(() => {});
+}
+
+addEventListener("unhandledrejection", (event) => console.error(event.reason));
+start().catch((error) => {
+  console.error(error);
+  showEnd("El juego no puede empezar en este navegador", "Prueba con una versión más reciente de Firefox, Chrome, Edge o Safari.");
+});

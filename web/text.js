@@ -1,0 +1,117 @@
+// Texts in their boxes: where lines break, how large the letters are, where the first line begins. All in twips, so that
+// a text stands the same at every size of the window.
+
+const FAMILIES = { sans: "Zarpi Sans", arial: "Zarpi Sans", mono: "Zarpi Mono", serif: "Zarpi Serif" };
+/** "sans" stands for a font whose letters are a trifle narrower, but not its blanks. */
+const SPACING = { sans: -0.012 };
+/** And whose lines are a trifle higher; the others are as high as their letters ask. */
+const LINE_HEIGHT = { sans: 1.2 };
+
+const pen = document.createElement("canvas").getContext("2d");
+
+function family(look) {
+  return `"${FAMILIES[look.font]}"`;
+}
+
+function setPen(look, size) {
+  pen.font = `${look.bold ? "bold " : ""}${size}px ${family(look)}`;
+}
+
+function widthOf(text, look, size) {
+  const letters = text.length - text.split(" ").length + 1;
+  return pen.measureText(text).width + (SPACING[look.font] ?? 0) * size * letters;
+}
+
+function brokenLines(text, look, size, width) {
+  const lines = [];
+  for (const paragraph of text.split("\n")) {
+    let line = "";
+    for (const word of paragraph.match(/ *[^ ]+/g) ?? [""]) {
+      if (line === "" || widthOf(line + word, look, size) <= width) {
+        line += word;
+      } else {
+        lines.push(line);
+        line = word.trimStart();
+      }
+    }
+    lines.push(line);
+  }
+  return lines;
+}
+
+/** The lines of a text in letters of `size`, and whether they fit. A single line may be higher than its box. */
+function layOut(text, look, size, box) {
+  setPen(look, size);
+  const metrics = pen.measureText("Mg");
+  const ink = metrics.fontBoundingBoxAscent + metrics.fontBoundingBoxDescent;
+  const height = Math.max(ink, (LINE_HEIGHT[look.font] ?? 0) * size);
+  const lines = brokenLines(text, look, size, box.width);
+  const width = Math.max(...lines.map((line) => widthOf(line, look, size)));
+  const fits = width <= box.width + 1 && (lines.length === 1 || lines.length * height <= box.height);
+  return { size, lines, height, ascent: metrics.fontBoundingBoxAscent + (height - ink) / 2, fits };
+}
+
+/** A text in a box, its letters as much smaller as it takes, down to half their size. */
+function fitted(text, look, box) {
+  const step = Math.max(1, look.size / 40);
+  let size = look.size;
+  let layout = layOut(text, look, size, box);
+  while (!layout.fits && text.length > 1 && size - step >= look.size / 2) {
+    size -= step;
+    layout = layOut(text, look, size, box);
+  }
+  return layout;
+}
+
+/** Where the first line begins, from the top of the box. Only what has a ground or a border has its text in the middle. */
+function topOf(layout, framed, box) {
+  const { lines, height, ascent, size } = layout;
+  if (lines.length > 1) return framed ? Math.max(0, (box.height - lines.length * height) / 2) : 0;
+  const capital = pen.measureText("H").actualBoundingBoxAscent;
+  const top = framed ? (box.height + capital) / 2 - ascent : 0;
+  if (height <= box.height) return Math.max(0, top);
+  const ink = pen.measureText(lines[0]);
+  const bottom = top + ascent + ink.actualBoundingBoxDescent;
+  if (bottom > box.height) return top - (bottom - box.height);
+  return Math.max(top, ink.actualBoundingBoxAscent - ascent, -size);
+}
+
+const known = new Map();
+
+/** What `span` must be to show a text in its box: `framed` texts stand in its middle. */
+export function placeText(span, text, look, box, framed) {
+  const key = [text, look.font, look.bold, look.size, box.width, box.height, framed].join("\t");
+  let found = known.get(key);
+  if (!found) {
+    const layout = fitted(text, look, box);
+    found = { layout, top: topOf(layout, framed, box) };
+    if (known.size > 500) known.clear();
+    known.set(key, found);
+  }
+  const { layout, top } = found;
+  span.textContent = layout.lines.join("\n");
+  span.style.top = twips(top);
+  span.style.fontSize = twips(layout.size);
+  span.style.lineHeight = twips(layout.height);
+  setFont(span, look);
+}
+
+/** The family, weight and spacing of an element's letters, without their size. */
+export function setFont(element, look) {
+  element.style.fontFamily = family(look);
+  element.style.fontWeight = look.bold ? "bold" : "normal";
+  const spacing = SPACING[look.font] ?? 0;
+  element.style.letterSpacing = `${spacing}em`;
+  element.style.wordSpacing = `${-spacing}em`;
+}
+
+/** A length of the design as one of the page, which grows with the window that it is in. */
+export function twips(length) {
+  return `calc(${+length.toFixed(2)} * var(--twip))`;
+}
+
+/** Waits until the fonts can be measured. */
+export async function loadFonts() {
+  const fonts = ["16px 'Zarpi Sans'", "bold 16px 'Zarpi Sans'", "bold 16px 'Zarpi Mono'"];
+  await Promise.all(fonts.map((font) => document.fonts.load(font))).catch(() => {});
+}

@@ -1,0 +1,264 @@
+// A window of the program: a section of the page, or a dialog over all others. Frame, menu bar, elements.
+
+import { makeElement } from "./elements.js";
+import { MenuBar } from "./menus.js";
+import { isNarrow, narrowSize, narrowState } from "./narrow.js";
+import { fileOf, load, pictureNamed } from "./pictures.js";
+import { twips } from "./text.js";
+
+const DESIGN_TWIP = 1 / 15; // pixels
+const DRAG_STEP = 5; // pixels
+const SPOKEN_LINES = 6;
+
+function make(tag, className, parent) {
+  const node = document.createElement(tag);
+  node.className = className;
+  parent.append(node);
+  return node;
+}
+
+export class Window {
+  #elements = new Map();
+  #scale = { twip: DESIGN_TWIP };
+  #form = null;
+  #focused = "";
+  #finger = 0;
+
+  /** `send` takes an event for the program. */
+  constructor(name, modal, send) {
+    this.name = name;
+    this.modal = modal;
+    this.send = send;
+    this.node = make(modal ? "dialog" : "section", "window", document.getElementById("desk"));
+    this.node.id = name;
+    this.client = make("div", "client", this.node);
+    this.client.tabIndex = -1;
+    this.keys = this.#makeKeys();
+    this.spoken = make("div", "spoken", this.node);
+    this.spoken.setAttribute("role", "status");
+    this.#listen();
+  }
+
+  /** Brings the window up, before all others. */
+  open() {
+    if (this.modal) this.node.showModal();
+    this.takeFocus();
+  }
+
+  close() {
+    if (this.modal) this.node.close();
+    this.node.remove();
+  }
+
+  /** Shows the frame of the form. */
+  showForm(form) {
+    this.#form = form;
+    if (!this.menus && !this.title) this.#makeTitle();
+    this.node.setAttribute("aria-label", form.caption);
+    if (this.title) this.title.textContent = form.caption;
+    this.client.style.backgroundColor = form.back ?? "";
+    this.resize();
+  }
+
+  showMenu(state) {
+    if (!this.menus) {
+      this.menus = new MenuBar(this.node, (name) => this.send("click", this.name, name), () => this.takeFocus());
+      this.node.prepend(this.menus.node);
+    }
+    this.menus.show(state);
+  }
+
+  showElement(state) {
+    let element = this.#elements.get(state.name);
+    if (!element) {
+      element = makeElement(state);
+      this.#elements.set(state.name, element);
+      this.client.append(element.node);
+    }
+    this.#place(element, state);
+  }
+
+  /** Puts the elements into their layers, the names from back to front. */
+  showLayers(names) {
+    names.forEach((name, i) => {
+      const element = this.#elements.get(name);
+      if (element) element.node.style.zIndex = String(i + 1);
+    });
+  }
+
+  /** The element of this name has the focus; none of them, if it is empty. */
+  showFocus(name) {
+    this.#focused = name;
+    this.takeFocus();
+  }
+
+  /** Gives the focus of the page to what has it in the window. */
+  takeFocus() {
+    const element = this.#elements.get(this.#focused);
+    if (element && !element.node.hidden && !element.node.disabled) element.focus();
+    else if (matchMedia("(pointer: coarse)").matches) this.client.focus({ preventScroll: true });
+    else this.keys.focus({ preventScroll: true });
+  }
+
+  /** Tells a player who listens. Each text is a line of its own, so that the same one is heard again. */
+  say(text) {
+    const line = document.createElement("p");
+    line.textContent = text;
+    this.spoken.append(line);
+    while (this.spoken.children.length > SPOKEN_LINES) this.spoken.firstChild.remove();
+  }
+
+  /** Whether the focus of the page is somewhere in the window. */
+  get hasFocus() {
+    const active = document.activeElement;
+    return this.node.contains(active) && active !== this.node && !active.disabled && !active.closest("[hidden]");
+  }
+
+  /** What the player would see of an element here. */
+  stateOf(name) {
+    return this.#elements.get(name)?.told;
+  }
+
+  get elements() {
+    return [...this.#elements.values()];
+  }
+
+  /** All windows grow with the page as the main one does, but none is made smaller than it was designed if it fits. */
+  resize() {
+    if (this.#form === null) return;
+    const bar = this.menus?.node ?? this.title.parentElement;
+    const room = { width: innerWidth, height: innerHeight - bar.offsetHeight };
+    this.#scale = this.#sizeFor(room);
+    const { twip, width, height } = this.#scale;
+    this.node.style.setProperty("--twip", `${twip}px`);
+    this.client.style.width = twips(width);
+    this.client.style.height = twips(height);
+    this.#showGround();
+    for (const element of this.#elements.values()) this.#place(element, element.told);
+  }
+
+  /** Of the client area, in twips. */
+  get size() {
+    return { width: this.#form.width, height: this.#form.height };
+  }
+
+  get twip() {
+    return this.#scale.twip;
+  }
+
+  #sizeFor(room) {
+    const form = this.#form;
+    this.isNarrow = isNarrow(form.form);
+    this.node.classList.toggle("narrow", this.isNarrow);
+    if (this.isNarrow) return narrowSize(room.width, room.height);
+    const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
+    const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
+    return { twip: Math.min(fit, Math.max(common, DESIGN_TWIP)), width: form.width, height: form.height };
+  }
+
+  #place(element, state) {
+    element.told = state;
+    const placed = this.isNarrow ? narrowState(state, this.#scale) : state;
+    element.show(placed, this.twip);
+    element.node.dataset.clicks = String(state.clicks);
+  }
+
+  #showGround() {
+    const picture = pictureNamed(this.#form.background);
+    if (!picture) return;
+    const file = fileOf(picture, this.twip);
+    load(file).then(() => (this.client.style.backgroundImage = `url("${file}")`));
+  }
+
+  #makeTitle() {
+    const bar = make("header", "titleBar", this.node);
+    this.node.prepend(bar);
+    this.title = make("h1", "", bar);
+    const cross = make("button", "cross", bar);
+    cross.type = "button";
+    cross.tabIndex = -1;
+    cross.setAttribute("aria-label", "Cerrar");
+    cross.textContent = "✕";
+    cross.addEventListener("click", () => this.send("close", this.name));
+  }
+
+  /** What has the focus while no element has it: it takes the characters that come without a key press. */
+  #makeKeys() {
+    const keys = make("input", "keys", this.client);
+    keys.inputMode = "none";
+    keys.autocomplete = "off";
+    keys.setAttribute("autocapitalize", "off");
+    keys.setAttribute("aria-label", "Letras del juego");
+    return keys;
+  }
+
+  #listen() {
+    this.client.addEventListener("click", (event) => this.#click(event));
+    this.client.addEventListener("contextmenu", (event) => event.target.closest("input") || event.preventDefault());
+    // A press on what takes no focus leaves it where it is.
+    this.client.addEventListener("mousedown", (event) => {
+      if (!event.target.closest("input, .listBox, .button")) event.preventDefault();
+    });
+    this.client.addEventListener("focusin", (event) => {
+      const state = this.#elements.get(event.target.dataset.name)?.told;
+      if (state && state.tab > 0 && state.name !== this.#focused) this.send("focus", this.name, state.name);
+    });
+    this.client.addEventListener("input", (event) => this.#input(event));
+    this.client.addEventListener("compositionstart", (event) => this.#composing(event, true));
+    this.client.addEventListener("compositionend", (event) => this.#composing(event, false));
+    for (const touch of ["touchstart", "touchmove"]) {
+      this.client.addEventListener(touch, (event) => this.#drag(event), { passive: true });
+    }
+    if (this.modal) this.node.addEventListener("cancel", (event) => event.preventDefault());
+  }
+
+  #click(event) {
+    const name = event.target.closest("[data-name]")?.dataset.name;
+    const state = this.#elements.get(name)?.told;
+    const row = event.target.closest("[data-row]");
+    if (row) this.send("select", this.name, name, row.dataset.row);
+    else if (state?.kind === "TextBox" || state?.kind === "ListBox") return;
+    else if (state?.clicks || state?.kind === "CommandButton") this.send("click", this.name, name);
+    else this.send("clickForm", this.name);
+    if (!this.hasFocus && this.node.isConnected) this.takeFocus();
+  }
+
+  /** A finger drawn across a window stands for the arrow keys. */
+  #drag(event) {
+    const [{ clientX }] = event.touches;
+    if (event.type === "touchstart" || event.touches.length > 1) this.#finger = clientX;
+    while (Math.abs(clientX - this.#finger) >= DRAG_STEP) {
+      const isRight = clientX > this.#finger;
+      this.#finger += isRight ? DRAG_STEP : -DRAG_STEP;
+      this.send("key", isRight ? "39" : "37", "0", "0");
+    }
+  }
+
+  #composing(event, isComposing) {
+    const element = this.#elements.get(event.target.dataset.name);
+    if (element) element.isComposing = isComposing;
+    if (!isComposing) this.#input(event);
+  }
+
+  #input(event) {
+    if (event.isComposing && event.type === "input") return;
+    if (event.target === this.keys) {
+      const text = this.keys.value;
+      this.keys.value = "";
+      for (const character of text) this.onCharacter(character);
+      return;
+    }
+    this.send("type", this.name, event.target.dataset.name, event.target.value.replaceAll("\n", " "));
+  }
+
+  /** Moves the selection of a list as its keys say. */
+  moveInList(key) {
+    const list = this.#elements.get(document.activeElement?.dataset.name)?.told;
+    if (list?.kind !== "ListBox") return false;
+    const last = list.lines.length - 1;
+    const rows = { ArrowDown: list.selected + 1, ArrowUp: list.selected - 1, Home: 0, End: last };
+    if (!(key in rows)) return false;
+    this.send("select", this.name, list.name, String(Math.max(0, Math.min(last, rows[key]))));
+    return true;
+  }
+}
