@@ -12,7 +12,7 @@ set(FLOOR_engine 4)
 set(FLOOR_voice 4)
 set(FLOOR_shell 5)
 set(rooms platform game records commentary sound words stage windows engine voice shell)
-set(platforms headless desktop hand)
+set(platforms headless desktop web hand)
 
 # Whether a source of `room` that includes a header of `other` builds.
 function(builds room other result)
