@@ -24,5 +24,5 @@ int main(int argc, char** argv) {
     display.Attach(headless.screen);
     platform::hand::WidgetHand hand(headless.screen, display);
     const platform::hand::WidgetEye eye(headless.screen, display);
-    return PlayScript(argc, argv, headless, {.Hand = hand, .Eye = &eye});
+    return PlayScript(argc, argv, headless, {.Hand = hand, .Eye = &eye, .Folder = files});
 }

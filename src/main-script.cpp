@@ -7,5 +7,5 @@ int main(int argc, char** argv) {
     platform::headless::FolderFiles files;
     platform::headless::Headless headless(files);
     platform::headless::ScreenHand hand(headless.screen);
-    return PlayScript(argc, argv, headless, {.Hand = hand, .Eye = nullptr});
+    return PlayScript(argc, argv, headless, {.Hand = hand, .Eye = nullptr, .Folder = files});
 }

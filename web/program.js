@@ -16,13 +16,21 @@ export class Program {
    * storedFiles(), which gives a map of names to bytes, and pictureSize(name), which gives width and height in pixels.
    */
   static async load(url, page) {
-    const program = new Program();
-    program.#page = page;
-    const { instance } = await WebAssembly.instantiateStreaming(fetch(url), { page: program.#imports() });
-    program.#exports = instance.exports;
-    instance.exports._initialize();
-    program.#area = instance.exports.area();
+    const program = new Program(page);
+    const { instance } = await WebAssembly.instantiateStreaming(fetch(url), program.imports);
+    program.begin(instance);
     return program;
+  }
+
+  constructor(page) {
+    this.#page = page;
+  }
+
+  /** Takes the program, made with `imports`, as its own. */
+  begin(instance) {
+    this.#exports = instance.exports;
+    instance.exports._initialize();
+    this.#area = instance.exports.area();
   }
 
   /** Runs the program to its first wait. False when it has ended instead. */
@@ -48,21 +56,28 @@ export class Program {
     }
   }
 
-  #bytes(address, length) {
+  /** Bytes of the program's memory. */
+  bytes(address, length) {
     return new Uint8Array(this.#exports.memory.buffer, address, length);
   }
 
-  #text(address, length) {
-    return new TextDecoder().decode(this.#bytes(address, length));
+  /** A text in the program's memory. */
+  text(address, length) {
+    return new TextDecoder().decode(this.bytes(address, length));
   }
 
-  #imports() {
+  /** What the program is made with. */
+  get imports() {
+    return { page: this.#functions() };
+  }
+
+  #functions() {
     return {
-      tell: (address, length) => this.#page.tell(JSON.parse(this.#text(address, length))),
+      tell: (address, length) => this.#page.tell(JSON.parse(this.text(address, length))),
       next_event: (buffer, capacity) => {
         if (this.#exports.asyncify_get_state() === REWINDING) {
           this.#exports.asyncify_stop_rewind();
-          return new TextEncoder().encodeInto(this.#event, this.#bytes(buffer, capacity)).written;
+          return new TextEncoder().encodeInto(this.#event, this.bytes(buffer, capacity)).written;
         }
         this.#exports.asyncify_start_unwind(this.#area);
         return 0;
@@ -77,17 +92,17 @@ export class Program {
       },
       random_bits: () => crypto.getRandomValues(new Uint32Array(1))[0],
       picture_size: (name, nameLength) => {
-        const { width, height } = this.#page.pictureSize(this.#text(name, nameLength)) ?? { width: 0, height: 0 };
+        const { width, height } = this.#page.pictureSize(this.text(name, nameLength)) ?? { width: 0, height: 0 };
         return width * 0x10000 + height;
       },
       stored_files: (buffer, capacity) => {
         const all = pack(this.#page.storedFiles());
-        this.#bytes(buffer, capacity).set(all.subarray(0, capacity));
+        this.bytes(buffer, capacity).set(all.subarray(0, capacity));
         return all.length;
       },
       store: (name, nameLength, bytes, length) =>
-        this.#page.store(this.#text(name, nameLength), this.#bytes(bytes, length).slice()),
-      remove: (name, nameLength) => this.#page.remove(this.#text(name, nameLength)),
+        this.#page.store(this.text(name, nameLength), this.bytes(bytes, length).slice()),
+      remove: (name, nameLength) => this.#page.remove(this.text(name, nameLength)),
     };
   }
 }

@@ -6,7 +6,7 @@
 
 namespace platform::headless {
 
-/// The size of a bitmap file of the current folder, from its header; nothing if there is none that can be read.
-std::optional<PictureSize> BitmapSize(TextView name);
+/// The size of a bitmap file, from its header; nothing if there is none that can be read.
+std::optional<PictureSize> BitmapSize(Files& files, TextView name);
 
 }  // namespace platform::headless

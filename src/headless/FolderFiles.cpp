@@ -78,4 +78,22 @@ bool FolderFiles::Remove(std::string_view name) {
     return !error;
 }
 
+void FolderFiles::Delete(std::string_view name) {
+    fs::remove_all(PathOf(name));
+}
+
+void FolderFiles::Block(std::string_view name) {
+    Delete(name);
+    fs::create_directory(PathOf(name));
+}
+
+std::vector<std::string> FolderFiles::Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(".")) {
+        const std::u8string name = entry.path().filename().u8string();
+        names.emplace_back(name.begin(), name.end());
+    }
+    return names;
+}
+
 }  // namespace platform::headless

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "headless/Folder.h"
 #include "platform/Services.h"
 
 namespace platform::headless {
@@ -11,7 +12,7 @@ std::filesystem::path PathOf(std::string_view name);
 
 /// The files of the current folder, by means of the standard library alone. It stores nothing for good against a power
 /// failure, as the contract of a real platform asks.
-class FolderFiles : public Files {
+class FolderFiles : public Files, public Folder {
 public:
     bool Exists(std::string_view name) override;
     std::optional<std::string> Read(std::string_view name) override;
@@ -19,6 +20,10 @@ public:
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;
     bool Replace(std::string_view name, std::string_view content) override;
     bool Remove(std::string_view name) override;
+
+    void Delete(std::string_view name) override;
+    void Block(std::string_view name) override;
+    [[nodiscard]] std::vector<std::string> Names() const override;
 };
 
 }  // namespace platform::headless

@@ -106,7 +106,9 @@ private:
     void Refresh() override;
     void WaitUntil(const std::function<bool()>& done) override;
     void End() override;
-    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override { return BitmapSize(picture); }
+    [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override {
+        return BitmapSize(files, picture);
+    }
     void Beep() override { log.Add("beep"); }
     void MsgBox(TextView text, TextView title) override;
     bool ShowDialog() override;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <istream>
 #include <locale>
 #include <map>
@@ -10,13 +9,9 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "headless/FolderFiles.h"
-
 namespace platform::headless {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 std::string_view TrimmedView(std::string_view text) {
     const auto first = text.find_first_not_of(" \t\r");
@@ -277,12 +272,11 @@ void Player::WriteFile(std::string_view rest) {
 }
 
 void Player::DeleteFile(std::string_view name) {
-    fs::remove_all(PathOf(name));
+    means_.Folder.Delete(name);
 }
 
 void Player::BlockFile(std::string_view name) {
-    fs::remove_all(PathOf(name));
-    fs::create_directory(PathOf(name));
+    means_.Folder.Block(name);
 }
 
 void Player::Tell(std::string_view name, Refusal refusal) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "headless/Folder.h"
 #include "headless/Hand.h"
 #include "headless/Headless.h"
 
@@ -24,6 +25,7 @@ struct Program {
 struct Means {
     headless::Hand& Hand;
     const headless::Eye* Eye;  ///< null where the state is what is seen
+    headless::Folder& Folder;
 };
 
 /// How a script went. A script is unreadable from the first line that cannot be read or names what does not exist.

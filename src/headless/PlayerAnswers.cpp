@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <charconv>
-#include <filesystem>
 #include <ostream>
 #include <stdexcept>
 
@@ -36,12 +35,7 @@ std::string SizeOf(Files& files, std::string_view name) {
     return content ? std::to_string(content->size()) : "missing";
 }
 
-std::string NamesInFolder() {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(".")) {
-        const std::u8string name = entry.path().filename().u8string();
-        names.emplace_back(name.begin(), name.end());
-    }
+std::string Sorted(std::vector<std::string> names) {
     std::ranges::sort(names);
     std::string list;
     for (const std::string& name : names) list += (list.empty() ? "" : " ") + name;
@@ -101,7 +95,7 @@ void Player::Check(bool good, const std::string& expected, const std::string& fo
 Player::Answer Player::Ask(std::string_view what) const {
     const auto [word, rest] = SplitWord(what);
     if (word == "file") return AskFile(rest);
-    if (word == "files") return {"files", NamesInFolder(), std::string(rest)};
+    if (word == "files") return {"files", Sorted(means_.Folder.Names()), std::string(rest)};
     if (word == "forms") return {"forms", ShownForms(), std::string(rest)};
     if (word == "speech") return {"speech", Spoken(), std::string(rest)};
     if (word == "focus") return {"focus", FocusName(), std::string(rest)};

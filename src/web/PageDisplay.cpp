@@ -46,7 +46,8 @@ void PageDisplay::Add(const std::string& object) {
     message_.append(message_.empty() ? "" : ",").append(object);
 }
 
-void PageDisplay::Send() {
+void PageDisplay::Show() {
+    TellChanges();
     const std::string list = "[" + message_ + "]";
     page_tell(list.data(), list.size());
     message_.clear();
@@ -68,8 +69,7 @@ void PageDisplay::Closed(Form& form) {
 }
 
 void PageDisplay::End() {
-    TellChanges();
-    Send();
+    Show();
     page_end();
 }
 
@@ -93,24 +93,21 @@ bool PageDisplay::WaitForAnswer() {
 }
 
 Event PageDisplay::NextEvent() {
-    TellChanges();
     TellWake();
-    Send();
+    Show();
     std::array<char, kLongestEvent> buffer{};
     return Parts({buffer.data(), page_next_event(buffer.data(), buffer.size())});
 }
 
-void PageDisplay::Take(const Event& event) {
+bool PageDisplay::Take(const Event& event) {
     const std::string& what = event.front();
-    if (what == "tick") return Tick();
     if (what == "key") return TakeKey(event);
-    if (what == "unsaved") {
-        if (OnUnsaved) OnUnsaved();
-        return;
-    }
+    if (what == "tick") Tick();
+    if (what == "unsaved" && OnUnsaved) OnUnsaved();
     const auto& shown = screen_->Shown();
     const auto form = std::ranges::find(shown, Part(event, 1), &Form::Name);
     if (form != shown.end()) TakeInput(event, **form);
+    return true;
 }
 
 void PageDisplay::TakeInput(const Event& event, Form& form) {
@@ -131,11 +128,13 @@ void PageDisplay::TakeInput(const Event& event, Form& form) {
 }
 
 /// A key that the screen leaves goes on to the element that has the focus, on the page.
-void PageDisplay::TakeKey(const Event& event) {
+bool PageDisplay::TakeKey(const Event& event) {
     const Key key{.Code = NumberOf(Part(event, 1)),
                   .Character = static_cast<char16_t>(NumberOf(Part(event, 2))),
                   .Control = Part(event, 3) == "1"};
-    if (!screen_->Press(key)) Add(Json("leaveKey").Done());
+    const bool isTaken = screen_->Press(key);
+    if (!isTaken) Add(Json("leaveKey").Done());
+    return isTaken;
 }
 
 void PageDisplay::Tick() {

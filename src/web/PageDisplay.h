@@ -30,6 +30,11 @@ public:
 
     /// Adds an object to the message, behind those that tell what has changed so far.
     void Tell(const std::string& object);
+    /// Carries out an event. False: it was a key that the screen leaves to the element that has the focus.
+    bool Take(const Event& event);
+    /// Tells the page all that has changed.
+    void Show();
+
     /// Waits, while time passes and no window takes input, until the player has answered what the page asks. What he
     /// chose: false to cancel.
     bool WaitForAnswer();
@@ -45,9 +50,8 @@ private:
     };
 
     Event NextEvent();
-    void Take(const Event& event);
     void TakeInput(const Event& event, Form& form);
-    void TakeKey(const Event& event);
+    bool TakeKey(const Event& event);
     void Tick();
     void TellChanges();
     void TellChanges(const Form& form, Window& window);
@@ -55,7 +59,6 @@ private:
     void TellWake();
     void TellState(Window& window, const std::string& name, std::string state);
     void Add(const std::string& object);
-    void Send();
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;

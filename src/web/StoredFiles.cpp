@@ -35,6 +35,12 @@ StoredFiles::StoredFiles() {
     }
 }
 
+std::vector<std::string> StoredFiles::Names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, content] : files_) names.push_back(name);
+    return names;
+}
+
 bool StoredFiles::Exists(std::string_view name) {
     return files_.contains(name);
 }

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/Services.h"
 
@@ -22,6 +23,8 @@ public:
     bool Replace(std::string_view name, std::string_view content) override;
     bool Remove(std::string_view name) override;
 
+    /// The names of all files.
+    [[nodiscard]] std::vector<std::string> Names() const;
     [[nodiscard]] bool IsEmpty() const { return files_.empty(); }
 
 private:
