@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "desktop/Announcer.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/FormPrinter.h"
 #include "desktop/GameFolder.h"
@@ -69,7 +70,7 @@ private:
     SystemBrowser browser_;
     Generator random_{Seed()};
     DurableFiles files_;
-    SystemSpeech speech_;
+    Announcer speech_{[this] { return display_.FrontWindow(); }};
     platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_, speech_};
 };
 

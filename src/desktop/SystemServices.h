@@ -37,11 +37,4 @@ private:
 /// A warning in plain text with one button; `owner` may be null.
 void ShowWarning(QWidget* owner, TextView text, TextView title);
 
-/// Nobody is spoken to yet.
-class SystemSpeech : public Speech {
-public:
-    [[nodiscard]] bool IsHeard() const override { return false; }
-    void Say(TextView /*text*/) override {}
-};
-
 }  // namespace platform::desktop
