@@ -168,9 +168,8 @@ void PageDisplay::TellState(Window& window, const std::string& name, std::string
 
 void PageDisplay::TellLayers(const Form& form, Window& window) {
     std::string names;
-    const auto controls = form.Controls();
-    for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
-        names.append(names.empty() ? "" : ",").append(Quoted((*control)->FullName()));
+    for (const Control* control : form.Controls()) {
+        names.insert(0, Quoted(control->FullName()) + (names.empty() ? "" : ","));
     }
     if (window.layers == names) return;
     Add(Json("layers").Text("form", form.Name).Raw("names", "[" + names + "]").Done());

@@ -15,6 +15,7 @@
 #include "desktop/PictureView.h"
 #include "hand/WidgetEye.h"
 #include "hand/WidgetHand.h"
+#include "headless/FolderFiles.h"
 #include "headless/MemoryFiles.h"
 #include "headless/Player.h"
 
@@ -44,7 +45,7 @@ struct AtTheWindow : testing::Test {
     std::string Tell(const std::string& line) {
         std::ostringstream out;
         headless::Player player(
-            headless, {.Hand = hand, .Eye = &eye},
+            headless, {.Hand = hand, .Eye = &eye, .Folder = scriptFolder},
             {.forms = {&form}, .start = [] {}, .field = [](auto, auto) { return std::optional<headless::Value>(); }},
             out);
         std::istringstream script(line);
@@ -54,6 +55,7 @@ struct AtTheWindow : testing::Test {
 
     QTemporaryDir folder;
     headless::MemoryFiles files;
+    headless::FolderFiles scriptFolder;
     Sample form;
     int clicks = 0;
     desktop::WindowDisplay display{desktop::Scale(1.25)};

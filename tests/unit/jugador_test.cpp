@@ -24,7 +24,7 @@ Played Play(const std::string& script) {
     ScreenHand hand(headless.screen);
     juego::Juego juego(headless.Services());
     std::ostringstream out;
-    Player player(headless, {.Hand = hand, .Eye = nullptr},
+    Player player(headless, {.Hand = hand, .Eye = nullptr, .Folder = files},
                   {.forms = juego.Ventanas(),
                    .start = [&juego] { juego.Start(); },
                    .field = [](std::string_view, std::string_view) { return std::optional<Value>(); }},
