@@ -25,8 +25,7 @@ QColor ButtonWidget::Face() const {
     return underMouse() && isEnabled() ? face.lighter(kHover) : face;
 }
 
-/// Bright above and dark below, as a button stands out; the other way round while it is pressed. The button that has
-/// the focus has a ring within.
+/// Bright above and dark below, as a button stands out; the other way round while it is pressed.
 void ButtonWidget::PaintEdge(QPainter& painter) const {
     constexpr int kBright = 150;
     constexpr int kDark = 160;
@@ -37,11 +36,6 @@ void ButtonWidget::PaintEdge(QPainter& painter) const {
     painter.fillRect(width() - edge_, 0, edge_, height(), below);
     painter.fillRect(0, 0, width() - edge_, edge_, above);
     painter.fillRect(0, 0, edge_, height() - edge_, above);
-    if (!hasFocus()) return;
-    const double inset = 2.5 * edge_;
-    painter.setPen(QPen(palette().color(QPalette::ButtonText), edge_));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset));
 }
 
 void ButtonWidget::paintEvent(QPaintEvent* /*event*/) {

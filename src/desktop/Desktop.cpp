@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <random>
 
+#include "desktop/Access.h"
 #include "desktop/Announcer.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/FormPrinter.h"
@@ -81,6 +82,7 @@ Desktop::Parts::Parts(int& argc, char** argv)
       scheduler_([this] { return heartbeat_.Now(); }),
       screen_(display_, scheduler_) {
     SetLook(scale_);
+    InstallAccess();
     display_.Attach(screen_);
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };

@@ -35,7 +35,9 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       toolkit_(toolkit),
       form_(form),
       client_(*new Client(this)),
-      keys_(*new KeyFilter(toolkit.Screen, form, client_)) {
+      board_(toolkit.Screen),
+      cursor_(toolkit_, form, board_, client_),
+      keys_(*new KeyFilter(toolkit.Screen, form, client_, cursor_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
     if (modal) setWindowModality(before.front == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
     TakeClicks();
@@ -59,23 +61,16 @@ void FormWindow::MakeViews() {
         auto view = MakeView(toolkit_, *control, client_);
         if (!view) continue;
         if (auto* const label = dynamic_cast<LabelView*>(view.get())) labels_.push_back(label);
+        board_.Add(*view);
         views_.emplace(control, std::move(view));
     }
-    SetTabOrder();
+    WatchKeys();
 }
 
-void FormWindow::SetTabOrder() {
-    std::vector<const Control*> order;
+/// Keys go to what has the focus.
+void FormWindow::WatchKeys() {
     for (const auto& [control, view] : views_) {
-        if (TabIndexOf(*control) != 0) order.push_back(control);
-    }
-    std::ranges::sort(order, {}, [](const Control* control) { return TabIndexOf(*control); });
-    QWidget* previous = nullptr;
-    for (const Control* control : order) {
-        QWidget& widget = views_.at(control)->Widget();
-        keys_.Watch(widget);
-        if (previous != nullptr) setTabOrder(previous, &widget);
-        previous = &widget;
+        if (TabIndexOf(*control) != 0) view->Widget().installEventFilter(&keys_);
     }
 }
 
@@ -86,6 +81,7 @@ void FormWindow::Refresh() {
     for (const auto& [control, view] : views_) view->Refresh();
     LevelTexts();
     RefreshFocus();
+    cursor_.Refresh();
 }
 
 void FormWindow::RefreshFrame() {

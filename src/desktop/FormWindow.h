@@ -6,7 +6,9 @@
 #include <optional>
 #include <vector>
 
+#include "desktop/Board.h"
 #include "desktop/Client.h"
+#include "desktop/Cursor.h"
 #include "desktop/KeyFilter.h"
 #include "desktop/MenuView.h"
 #include "desktop/View.h"
@@ -32,6 +34,8 @@ public:
     void Refresh();
 
     [[nodiscard]] Client& ClientArea() const { return client_; }
+    [[nodiscard]] const Board& Elements() const { return board_; }
+    [[nodiscard]] const Cursor& Here() const { return cursor_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -39,7 +43,7 @@ protected:
 private:
     void MakeViews();
     void TakeClicks();
-    void SetTabOrder();
+    void WatchKeys();
     void RefreshFrame();
     void RefreshLayers();
     void RefreshFocus();
@@ -51,6 +55,8 @@ private:
     const Toolkit toolkit_;
     Form& form_;
     Client& client_;
+    Board board_;
+    Cursor cursor_;
     KeyFilter& keys_;
     std::unique_ptr<MenuView> menu_;
     std::map<const Control*, std::unique_ptr<View>> views_;

@@ -25,16 +25,11 @@ bool IsArrow(const QKeyEvent& press) {
 
 }  // namespace
 
-KeyFilter::KeyFilter(Screen& screen, const Form& form, QWidget& client)
-    : QObject(&client), screen_(screen), form_(form), client_(client) {
+KeyFilter::KeyFilter(Screen& screen, const Form& form, QWidget& client, Cursor& cursor)
+    : QObject(&client), screen_(screen), form_(form), client_(client), cursor_(cursor) {
     client.setAttribute(Qt::WA_InputMethodEnabled);
     client.installEventFilter(this);
     client.window()->installEventFilter(this);
-}
-
-void KeyFilter::Watch(QWidget& widget) {
-    hasFocusOrder_ = true;
-    widget.installEventFilter(this);
 }
 
 bool KeyFilter::eventFilter(QObject* receiver, QEvent* event) {
@@ -46,13 +41,9 @@ bool KeyFilter::eventFilter(QObject* receiver, QEvent* event) {
     return false;
 }
 
-bool KeyFilter::MovesFocus(const QKeyEvent& press) const {
-    return hasFocusOrder_ && (press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab);
-}
-
 bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
+    if (screen_.Front() == &form_ && cursor_.Take(press)) return true;
     if (press.isAutoRepeat()) return TakeRepeat(receiver, press);
-    if (MovesFocus(press)) return false;
     const std::optional<Key> key = reader_.Read(press);
     const bool taken = key && Press(*key);
     return taken || !Takes(receiver, key);
@@ -60,7 +51,7 @@ bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
 
 bool KeyFilter::TakeRepeat(const QObject* receiver, const QKeyEvent& press) {
     const std::optional<Key> key = reader_.Read(press);
-    if (Takes(receiver, key)) return MovesFocus(press);
+    if (Takes(receiver, key)) return false;
     if (key && IsArrow(press) && form_.KeyPreview && form_.OnKeyDown) Press(*key);
     return true;
 }

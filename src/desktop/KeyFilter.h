@@ -2,26 +2,24 @@
 
 #include <QObject>
 
+#include "desktop/Cursor.h"
 #include "desktop/Keys.h"
 #include "platform/Screen.h"
 
 namespace platform::desktop {
 
-/// Hands every key press in a window to the screen before any widget sees it. What the screen leaves goes on to the
-/// widget that has the focus if that takes texts or a selection, and nowhere else. A key held down repeats itself in
-/// such a widget, and as an arrow key in a form that reads the codes of keys; for all else it is one press.
+/// Hands every key press in a window to the cursor and then to the screen before any widget sees it. What the screen
+/// leaves goes on to the widget that has the focus if that takes texts or a selection, and nowhere else. A key held
+/// down repeats itself in such a widget, and as an arrow key in a form that reads the codes of keys; for all else it is
+/// one press.
 class KeyFilter : public QObject {
 public:
     /// `client` is the widget with the focus while no element has it; it takes the characters of input methods.
-    KeyFilter(Screen& screen, const Form& form, QWidget& client);
-
-    /// Watches a widget that can have the focus.
-    void Watch(QWidget& widget);
+    KeyFilter(Screen& screen, const Form& form, QWidget& client, Cursor& cursor);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
-    [[nodiscard]] bool MovesFocus(const QKeyEvent& press) const;
     bool TakeKey(QObject* receiver, const QKeyEvent& press);
     bool TakeRepeat(const QObject* receiver, const QKeyEvent& press);
     void TakeText(const QString& text);
@@ -30,8 +28,8 @@ private:
     Screen& screen_;
     const Form& form_;
     QWidget& client_;
+    Cursor& cursor_;
     KeyReader reader_;
-    bool hasFocusOrder_ = false;
 };
 
 }  // namespace platform::desktop

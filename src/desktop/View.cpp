@@ -43,6 +43,9 @@ View::View(const Toolkit& toolkit, Control& element, QWidget& widget)
     : toolkit_(toolkit), element_(element), widget_(widget) {
     widget_.setObjectName(ToQt(std::string_view(element_.FullName())));
     widget_.setFocusPolicy(Qt::NoFocus);
+    if (element_.kind == Kind::TextBox || element_.kind == Kind::ListBox) {
+        widget_.setAccessibleName(ToQt(SpokenNameOf(element_)));
+    }
     widget_.hide();
 }
 

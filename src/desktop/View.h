@@ -35,6 +35,8 @@ public:
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
     [[nodiscard]] const Control& Element() const { return element_; }
+    /// Clicks the element without a mouse. The view may be gone afterwards.
+    void Press() { toolkit_.Screen.Click(element_); }
 
 protected:
     /// Lets the left mouse button click the element, over which the pointer becomes a hand; the form instead, if the

@@ -34,6 +34,7 @@ frmDiploma::frmDiploma(Zarpi& zarpi, Forms& forms, Printer& printer, Media& medi
         this->media.Command(sonDiploma, MediaCommand::Pause);
         this->media.Command(sonDiploma, MediaCommand::Prev);
     };
+    Picture2.Click = Picture3.Click = [this] { Form_KeyDown(KeyLeft); };
     cmdAceptar.Click = [this] { this->forms.Unload(*this); };
     cmdImprimir.Click = [this] { cmdImprimir_Click(); };
 }

@@ -1,5 +1,7 @@
 // The game without sight and without a mouse.
 
+#include "desktop/Access.h"
+
 #include <QAccessible>
 #include <gtest/gtest.h>
 
@@ -26,6 +28,101 @@ TEST(Announcer, SpeaksTheTextsOfATurnAsOneAndAfterTheTitleOfAWindow) {
     announcer.Say(u"tres");
     QCoreApplication::processEvents();
     EXPECT_EQ(spoken, QStringList({"uno dos", "tres"}));
+}
+
+/// A form whose letter, hero and button answer clicks, in rows: letter and hero; text box and list; button.
+struct Access : testing::Test {
+    Access() {
+        InstallAccess();
+        form.picHero.SpokenName = [] { return Text(u"Zarpi"); };
+        form.txtName.SpokenName = [] { return Text(u"Nombre"); };
+        for (Control* control : std::initializer_list<Control*>{&form.lblFront, &form.picHero, &form.cmdPlain}) {
+            control->Click = [this, control] { clicked += control->Name + " "; };
+        }
+        rig.screen.Show(form);
+        QCoreApplication::processEvents();
+    }
+    [[nodiscard]] std::string Ringed() const {
+        const QWidget& ring = rig.Widget(form, "ring");
+        if (!ring.isVisible()) return "";
+        for (const Control* control : form.Controls()) {
+            const auto* const widget = rig.Widget(form).findChild<QWidget*>(QString::fromStdString(control->Name));
+            if (widget->geometry().center() == ring.geometry().center()) return control->Name;
+        }
+        return "elsewhere";
+    }
+
+    Rig rig;
+    Sample form;
+    std::string clicked;
+};
+
+TEST_F(Access, TheKeyboardReachesAllThatAnswersAClick) {
+    form.lblFront.Left = form.lblFront.Top = 600;
+    form.picHero.Top = 600;
+    rig.display.Refresh();
+    struct Row {
+        Qt::Key key;
+        std::string ringed;
+        const Control* focus;
+        std::string clicked;
+    };
+    const std::vector<Row> rows = {
+        {Qt::Key_Tab, "", &form.lstGames, ""},
+        {Qt::Key_Tab, "cmdPlain", &form.lstGames, ""},
+        {Qt::Key_Space, "cmdPlain", &form.lstGames, "cmdPlain "},
+        {Qt::Key_Tab, "lblFront", &form.lstGames, ""},
+        {Qt::Key_Right, "picHero", &form.lstGames, ""},
+        {Qt::Key_X, "picHero", &form.lstGames, ""},
+        {Qt::Key_Space, "picHero", &form.lstGames, "picHero "},
+        {Qt::Key_Left, "lblFront", &form.lstGames, ""},
+        {Qt::Key_Escape, "", &form.lstGames, ""},
+        {Qt::Key_Tab, "cmdPlain", &form.lstGames, ""},
+        {Qt::Key_Up, "", &form.lstGames, ""},
+        {Qt::Key_Backtab, "", &form.txtName, ""},
+        {Qt::Key_Backtab, "picHero", &form.txtName, ""},
+    };
+    for (const Row& row : rows) {
+        clicked.clear();
+        QTest::keyClick(rig.Widget(form).window()->windowHandle(), row.key);
+        EXPECT_EQ(Ringed(), row.ringed) << row.key;
+        EXPECT_EQ(form.Focus(), row.focus) << row.key;
+        EXPECT_EQ(clicked, row.clicked) << row.key;
+    }
+    EXPECT_EQ(form.Typed, std::vector<int>{'x'});
+    // One of two bands stands out from every ground.
+    const QRect hero = rig.Widget(form, "picHero").geometry();
+    const QImage seen = rig.Widget(form).grab().toImage();
+    for (int i = 1; i <= 6; ++i) {
+        EXPECT_EQ(seen.pixel(hero.left() - i, hero.center().y()) & 0xFFFFFFU, i <= 3 ? 0xFFFFFFU : 0U) << i;
+    }
+}
+
+TEST_F(Access, AScreenReaderMeetsWhatIsSeenByItsName) {
+    QAccessibleInterface* const window = QAccessible::queryAccessibleInterface(rig.display.WindowOf(form));
+    QAccessibleInterface* const client = QAccessible::queryAccessibleInterface(&rig.Widget(form));
+    EXPECT_EQ(window->role(), QAccessible::Window);
+    EXPECT_EQ(window->text(QAccessible::Name), "Muestra");
+    EXPECT_NE(window->indexOfChild(client), -1);
+    const std::vector<std::pair<QAccessible::Role, QString>> elements = {{QAccessible::Button, "<b>uno</b> & dos"},
+                                                                         {QAccessible::Button, "Zarpi"},
+                                                                         {QAccessible::EditableText, "Nombre"},
+                                                                         {QAccessible::List, ""},
+                                                                         {QAccessible::Button, "A & B"}};
+    ASSERT_EQ(client->childCount(), static_cast<int>(elements.size()));
+    for (int i = 0; i < client->childCount(); ++i) {
+        QAccessibleInterface* const child = client->child(i);
+        EXPECT_EQ(std::pair(child->role(), child->text(QAccessible::Name)), elements.at(static_cast<std::size_t>(i)));
+        EXPECT_EQ(client->indexOfChild(child), i);
+        EXPECT_EQ(child->parent(), client);
+        if (child->role() == QAccessible::Button)
+            child->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(clicked, "lblFront picHero cmdPlain ");
+    form.picHero.Visible = false;
+    rig.display.Refresh();
+    EXPECT_EQ(client->childCount(), 4);
 }
 
 }  // namespace

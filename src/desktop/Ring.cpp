@@ -1,0 +1,34 @@
+#include "desktop/Ring.h"
+
+#include <QPainter>
+
+namespace platform::desktop {
+
+Ring::Ring(QWidget& client, int band) : QWidget(&client), band_(band) {
+    setObjectName("ring");
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+void Ring::Surround(const QWidget* widget) {
+    setVisible(widget != nullptr);
+    if (widget == nullptr) return;
+    const int margin = 2 * band_;
+    const QRect box = widget->geometry().adjusted(-margin, -margin, margin, margin) & parentWidget()->rect();
+    if (box != geometry()) setGeometry(box);
+    if (parentWidget()->children().last() != this) raise();
+}
+
+void Ring::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const auto band = [&](int inset, Qt::GlobalColor color) {
+        const QRect outer = rect().adjusted(inset, inset, -inset, -inset);
+        const QRegion inner(outer.adjusted(band_, band_, -band_, -band_));
+        painter.setClipRegion(QRegion(outer) - inner);
+        painter.fillRect(outer, color);
+    };
+    band(0, Qt::black);
+    band(band_, Qt::white);
+}
+
+}  // namespace platform::desktop
