@@ -112,6 +112,8 @@ shot 06-reanudada
 press ctrl+g
 window 'Guardar'
 xdotool type --delay 100 'ñandú'
+press Tab
+xdotool type --delay 100 'ñandú'
 shot 07-guardar
 press Return
 sleep 2
@@ -127,6 +129,7 @@ shot 08-otra-vez
 press ctrl+u
 sleep 2
 shot 09-últimas
+press Escape
 press ctrl+s
 wineserver -w
 
