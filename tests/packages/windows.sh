@@ -29,7 +29,13 @@ window() {
     done
     fail "no window $1"
 }
-expect() { [ "$(tr -d '\r\n' <"$records/$1")" = "$2" ] || fail "$1 holds $(cat "$records/$1")"; }
+expect() {
+    for _ in $(seq 40); do
+        [ "$(tr -d '\r\n' <"$records/$1")" = "$2" ] && return
+        sleep 0.5
+    done
+    fail "$1 holds $(cat "$records/$1")"
+}
 gone() {
     for _ in $(seq 120); do
         [ ! -e "$1" ] && return
