@@ -135,6 +135,7 @@ Function un.onInit
     ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/partidas" $1
-    IfErrors +2
+    IfErrors kept
     !insertmacro SelectSection ${UnRecords}
+    kept:
 FunctionEnd

@@ -29,7 +29,13 @@ window() {
     done
     fail "no window $1"
 }
-expect() { [ "$(tr -d '\r\n' <"$records/$1")" = "$2" ] || fail "$1 holds $(cat "$records/$1")"; }
+expect() {
+    for _ in $(seq 40); do
+        [ "$(tr -d '\r\n' <"$records/$1")" = "$2" ] && return
+        sleep 0.5
+    done
+    fail "$1 holds $(cat "$records/$1")"
+}
 gone() {
     for _ in $(seq 120); do
         [ ! -e "$1" ] && return
@@ -112,6 +118,8 @@ shot 06-reanudada
 press ctrl+g
 window 'Guardar'
 xdotool type --delay 100 'ñandú'
+press Tab
+xdotool type --delay 100 'ñandú'
 shot 07-guardar
 press Return
 sleep 2
@@ -127,6 +135,7 @@ shot 08-otra-vez
 press ctrl+u
 sleep 2
 shot 09-últimas
+press Escape
 press ctrl+s
 wineserver -w
 
