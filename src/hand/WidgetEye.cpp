@@ -6,7 +6,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
+#include <cstdlib>
 
 #include "desktop/PictureView.h"
 #include "desktop/Strings.h"
@@ -50,7 +52,9 @@ QRect WantedPlace(const Scale& scale, const Control& control) {
 
 Sight PlaceSeen(const Scale& scale, const Control& control, const QWidget& widget, std::string_view property,
                 const Value& state) {
-    const QRect seen = widget.geometry();
+    // What letters need beyond their box is a margin around it.
+    const bool label = control.kind == Kind::Label;
+    const QRect seen = widget.geometry().marginsRemoved(label ? widget.contentsMargins() : QMargins());
     const QRect wanted = WantedPlace(scale, control);
     if (property == "Left") return Length(scale, seen.x(), wanted.x(), state);
     if (property == "Top") return Length(scale, seen.y(), wanted.y(), state);
@@ -125,9 +129,39 @@ Sight ElementSeen(const Toolkit& kit, const Control& control, const QWidget& wid
     return place ? place : WidgetSeen(widget, property);
 }
 
-Sight WindowSeen(const Scale& scale, const FormWindow& window, std::string_view property, const Value& state) {
+/// One direction of the place of a window, in pixels of the screen.
+struct Stretch {
+    int at;           ///< where the window begins
+    int frameAt;      ///< and its frame
+    int frameLength;  ///< of the window with its frame
+    int deskAt;       ///< where the part of the screen begins that windows may take
+    int deskLength;   ///< and its length
+    int origin;       ///< where the client area of the main window begins
+};
+
+/// A window stands where its form says or in the middle of the desk, and on the desk.
+Value StandSeen(const Scale& scale, const Stretch& here, const Value& state) {
+    constexpr int kTolerance = 1;  // of a middle between two pixels
+    const int said = std::get<int>(state);
+    const int border = here.at - here.frameAt;
+    const int room = here.deskLength - here.frameLength;
+    const int wanted = said < 0 ? here.deskAt + room / 2 : here.origin + scale.Pixels(said) - border;
+    const int stands = std::max(here.deskAt, std::min(wanted, here.deskAt + room));
+    return std::abs(here.frameAt - stands) <= kTolerance
+               ? state
+               : Value(ToTwips(scale, here.at - (said < 0 ? here.deskAt : here.origin)));
+}
+
+Sight WindowSeen(const Scale& scale, const FormWindow& window, QPoint origin, std::string_view property,
+                 const Value& state) {
     const auto length = [&](int pixels) { return Length(scale, pixels, scale.Pixels(std::get<int>(state)), state); };
+    const QRect frame = window.frameGeometry();
+    const QRect desk = window.screen()->availableGeometry();
+    const Stretch across{window.geometry().x(), frame.x(), frame.width(), desk.x(), desk.width(), origin.x()};
+    const Stretch down{window.geometry().y(), frame.y(), frame.height(), desk.y(), desk.height(), origin.y()};
     if (property == "Caption") return FromQt(window.windowTitle());
+    if (property == "Left") return StandSeen(scale, across, state);
+    if (property == "Top") return StandSeen(scale, down, state);
     if (property == "Width") return length(window.ClientArea().width());
     if (property == "Height") return length(window.ClientArea().height());
     return std::nullopt;
@@ -156,7 +190,10 @@ Sight WidgetEye::Seen(const Form& form, std::string_view property, const Value& 
     const FormWindow* const window = display_.WindowOf(form);
     const bool visible = window != nullptr && window->isVisible();
     if (property == "Visible") return Difference(visible, state);
-    return visible ? Difference(WindowSeen(display_.Kit().Scale, *window, property, state), state) : std::nullopt;
+    if (!visible) return std::nullopt;
+    const FormWindow* const first = display_.WindowOf(*screen_.Shown().front());
+    const QPoint origin = (first == nullptr ? window : first)->ClientArea().mapToGlobal(QPoint());
+    return Difference(WindowSeen(display_.Kit().Scale, *window, origin, property, state), state);
 }
 
 std::string WidgetEye::Forms() const {

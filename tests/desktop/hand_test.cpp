@@ -90,6 +90,7 @@ TEST_F(AtTheWindow, WhatDiffersIsTold) {
         {"mnuSave.Enabled", "False", [&] { Widget<QAction>("mnuSave").setEnabled(true); }, "True"},
         {"Sample.Caption", R"("Muestra")", [&] { display.WindowOf(form)->setWindowTitle("x"); }, R"("x")"},
         {"Sample.Width", "6000", [&] { display.WindowOf(form)->ClientArea().resize(499, 375); }, "5988"},
+        {"Sample.Top", "-1", [&] { display.WindowOf(form)->setGeometry(0, 10, 500, 400); }, "120"},
         {"focus", "Sample.txtName", [&] { Widget("lstGames").setFocus(); }, "Sample.lstGames"},
     };
     for (const Row& row : rows) {
