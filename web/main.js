@@ -151,11 +151,12 @@ async function loadAssets() {
 }
 
 async function start() {
+  const compiled = WebAssembly.compileStreaming(fetch("zarpi.wasm"));
   const [alone, storage, assets] = await Promise.all([lockStorage(), Storage.open(), loadAssets(), loadFonts()]);
   if (!alone) return showEnd("El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella.");
   setPictures(assets.pictures);
   const page = new Page(storage, assets);
-  const program = await Program.load("zarpi.wasm", page.loop.page);
+  const program = await Program.load(compiled, page.loop.page);
   document.getElementById("loading")?.remove();
   page.listen();
   page.loop.start(program);

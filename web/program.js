@@ -12,12 +12,12 @@ export class Program {
   #page;
 
   /**
-   * Loads the program; nothing of it runs yet. `page` has the functions tell(objects), store(name, bytes), remove(name),
+   * Loads the program, which is being compiled; nothing of it runs yet. `page` has the functions tell(objects), store(name, bytes), remove(name),
    * storedFiles(), which gives a map of names to bytes, and pictureSize(name), which gives width and height in pixels.
    */
-  static async load(url, page) {
+  static async load(compiled, page) {
     const program = new Program(page);
-    const { instance } = await WebAssembly.instantiateStreaming(fetch(url), program.imports);
+    const instance = await WebAssembly.instantiate(await compiled, program.imports);
     program.begin(instance);
     return program;
   }
