@@ -50,7 +50,9 @@ QRect WantedPlace(const Scale& scale, const Control& control) {
 
 Sight PlaceSeen(const Scale& scale, const Control& control, const QWidget& widget, std::string_view property,
                 const Value& state) {
-    const QRect seen = widget.geometry();
+    // The tilde or the tail of a letter may reach beyond its label, whose box lies within the margins.
+    const bool isLabel = dynamic_cast<const QLabel*>(&widget) != nullptr;
+    const QRect seen = isLabel ? widget.geometry().marginsRemoved(widget.contentsMargins()) : widget.geometry();
     const QRect wanted = WantedPlace(scale, control);
     if (property == "Left") return Length(scale, seen.x(), wanted.x(), state);
     if (property == "Top") return Length(scale, seen.y(), wanted.y(), state);
