@@ -7,9 +7,9 @@
 
 namespace platform::desktop {
 
-/// The desktop at factor 1 without the services.
+/// The desktop at a factor without the services.
 struct Rig {
-    Rig() {
+    explicit Rig(double factor = 1) : scale(factor) {
         display.Attach(screen);
         heartbeat.Attach(scheduler, screen);
         display.OnRefresh = [this] { heartbeat.Arm(); };
@@ -21,7 +21,7 @@ struct Rig {
         return *display.WindowOf(form)->findChild<W*>(name);
     }
 
-    Scale scale{1};
+    Scale scale;
     WindowDisplay display{scale};
     Heartbeat heartbeat;
     Scheduler scheduler{[this] { return heartbeat.Now(); }};

@@ -89,6 +89,38 @@ TEST_F(KeysInWindow, AnAccentedVowelIsOneCharacter) {
     EXPECT_TRUE(Client().testAttribute(Qt::WA_InputMethodEnabled));
 }
 
+TEST_F(KeysInWindow, AKeyHeldDownIsOnePress) {
+    std::vector<int> codes;
+    form.OnKeyDown = [&codes](int code) { codes.push_back(code); };
+    const auto hold = [](QWidget& widget, int key, const char* text) {
+        for (const bool repeats : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text, repeats);
+            QCoreApplication::sendEvent(&widget, &press);
+        }
+    };
+    hold(Client(), Qt::Key_A, "a");
+    hold(Client(), Qt::Key_Return, "\r");
+    hold(Client(), Qt::Key_Left, "");
+    EXPECT_EQ(form.Typed, (std::vector<int>{'a', '\r'}));
+    EXPECT_EQ(codes, (std::vector<int>{'A', KeyEnter, KeyLeft, KeyLeft, KeyLeft}));
+
+    form.txtName.Visible = true;
+    form.KeyPreview = false;
+    rig.display.Refresh();
+    hold(rig.Widget(form, "txtName"), Qt::Key_B, "b");
+    EXPECT_EQ(form.txtName.Text, u"bbb");
+}
+
+TEST_F(KeysInWindow, AKeyForAWindowThatHasGoneReachesNoOther) {
+    Sample dialog("Dialog");
+    rig.screen.Show(dialog);
+    QWidget& gone = rig.Widget(dialog);
+    rig.screen.Hide(dialog);
+    QTest::sendKeyEvent(QTest::Press, &gone, Qt::Key_X, u'x', Qt::NoModifier);
+    EXPECT_TRUE(form.Typed.empty());
+    EXPECT_TRUE(dialog.Typed.empty());
+}
+
 TEST_F(KeysInWindow, MenusAndShortcutsAreNoLetters) {
     int started = 0;
     form.mnuNew.Click = form.mnuSave.Click = [&started] { ++started; };

@@ -1,13 +1,18 @@
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPrinter>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "Rig.h"
+#include "desktop/Companion.h"
 #include "desktop/FormPrinter.h"
+#include "desktop/WindowPlace.h"
 
 namespace platform::desktop {
 namespace {
@@ -50,16 +55,97 @@ TEST_F(Window, PaintsNothingWhileNothingChanges) {
     EXPECT_EQ(counter.painted, 0);
 }
 
-TEST_F(Window, AMissingPictureLeavesTheLastOne) {
-    const QTemporaryDir folder;
-    QImage black(50, 50, QImage::Format_RGB32);
-    black.fill(Qt::black);
-    black.save(folder.filePath("black.bmp"));
-    for (const char* name : {"black.bmp", "gone.bmp"}) {
-        form.picHero.Picture = FromUtf8(folder.filePath(name).toStdString());
-        rig.display.Refresh();
-        EXPECT_EQ(Pixel(220, 30), 0U) << name;
+/// Pictures that a player has put into a folder, loaded into a form.
+struct Exchanged : testing::Test {
+    void Save(const char* name, QSize size, QRgb color, QRgb corner) const {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(color);
+        for (int y = 0; y < size.height() / 2; ++y) {
+            for (int x = 0; x < size.width() / 4; ++x) picture.setPixel(x, y, corner);
+        }
+        picture.save(folder.filePath(name));
     }
+    /// The size of the box and the colour in the middle of the picture, once a file is loaded.
+    std::pair<QSize, QRgb> Seen(const char* name) {
+        form.OnKeyPress = [&](int /*code*/) { form.picHero.Picture = FromUtf8(folder.filePath(name).toStdString()); };
+        rig.screen.Press(KeyOf(u'x'));
+        const QImage seen = rig.Widget(form, "picHero").grab().toImage();
+        return {seen.size(), seen.pixel(seen.rect().center()) & 0xFFFFFFU};
+    }
+
+    static constexpr QRgb kRed = 0xFF0000;
+    static constexpr QRgb kAlmostRed = 0xFE0000;
+    const QTemporaryDir folder;
+    Rig rig{2};
+    Sample form;
+};
+
+TEST_F(Exchanged, APictureGivesItsSizeAndItsOldCompanionsGo) {
+    Save("pose.bmp", {40, 20}, kRed, 0);
+    Save("pose@2x.png", {80, 40}, kAlmostRed, 0);
+    Save("other.bmp", {40, 20}, kRed, 0);
+    Save("other@2x.png", {80, 40}, kAlmostRed, kRed);
+    Save("small.bmp", {20, 30}, kRed, 0);
+    Save("small@2x.png", {80, 40}, kAlmostRed, 0);
+    Save("large.bmp", {20, 10}, kRed, 0);
+    Save("large@4x.png", {80, 40}, kAlmostRed, 0);
+    rig.screen.Show(form);
+    EXPECT_EQ(Seen("pose.bmp"), std::pair(QSize(80, 40), kAlmostRed)) << "the same drawing";
+    EXPECT_EQ(Seen("other.bmp"), std::pair(QSize(80, 40), kRed)) << "another corner";
+    EXPECT_EQ(Seen("small.bmp"), std::pair(QSize(40, 60), kRed)) << "another shape";
+    EXPECT_EQ(form.picHero.Height, 450);
+    EXPECT_EQ(Seen("gone.bmp"), std::pair(QSize(40, 60), kRed)) << "the last one stays";
+    EXPECT_EQ(Seen("large.bmp"), std::pair(QSize(40, 20), kAlmostRed)) << "the next larger one";
+}
+
+TEST(Companions, EveryPoseHasItsOwn) {
+    const QDir art(QStringLiteral(ZARPI_POSES));
+    const QStringList poses = art.entryList({"Zarpi*.bmp"});
+    EXPECT_EQ(poses.size(), 15);
+    for (const QString& pose : poses) {
+        for (const char* times : {"@2x.png", "@4x.png"}) {
+            const QImage large(art.filePath(pose.chopped(4) + times));
+            EXPECT_TRUE(BelongTogether(QImage(art.filePath(pose)), large)) << pose.toStdString() << times;
+        }
+    }
+    EXPECT_FALSE(BelongTogether(QImage(art.filePath("Zarpi11.bmp")), QImage(art.filePath("Zarpi12@2x.png"))));
+}
+
+TEST_F(Window, ADoubleClickIsOneClick) {
+    std::string clicked;
+    form.lblFront.Click = [&] { clicked += 'f'; };
+    form.lblBack.Click = [&] { clicked += 'b'; };
+    form.cmdPlain.Click = [&] { clicked += 'c'; };
+    const auto click = [this](const char* name, QEvent::Type press) {
+        QWidget& widget = rig.Widget(form, name);
+        for (const QEvent::Type type : {press, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons held = type == press ? Qt::LeftButton : Qt::NoButton;
+            QMouseEvent event(type, QPointF(5, 5), widget.mapToGlobal(QPointF(5, 5)), Qt::LeftButton, held, {});
+            QCoreApplication::sendEvent(&widget, &event);
+        }
+    };
+    for (const char* name : {"lblFront", "cmdPlain"}) {
+        click(name, QEvent::MouseButtonPress);
+        click(name, QEvent::MouseButtonDblClick);
+    }
+    EXPECT_EQ(clicked, "fc");
+    click("lblFront", QEvent::MouseButtonPress);
+    click("lblBack", QEvent::MouseButtonDblClick);
+    EXPECT_EQ(clicked, "fcfb") << "two things side by side";
+    form.lblFront.Click = [this] { form.lblFront.Visible = false; };
+    click("lblFront", QEvent::MouseButtonPress);
+    click("lblBack", QEvent::MouseButtonDblClick);
+    EXPECT_EQ(clicked, "fcfb") << "what the first click has uncovered";
+}
+
+TEST_F(Window, AListShowsWholeRowsAndWholeLines) {
+    form.lstGames.List = {u"PARTIDAS", u"WWWWWWWWWWWWWW", u"Ana", u"Luis", u"Eva", u"Inés", u"Iván", u"Zoe", u"Ada"};
+    rig.display.Refresh();
+    const auto& list = rig.Widget<QListWidget>(form, "lstGames");
+    const QRect view = list.viewport()->rect();
+    const int row = list.visualItemRect(list.item(0)).height();
+    EXPECT_LT(view.height() % row, view.height() / row) << "no row is cut";
+    EXPECT_LT(list.fontMetrics().horizontalAdvance("WWWWWWWWWWWWWW"), view.width());
 }
 
 TEST_F(Window, ClicksGoToTheElementOrElseToTheForm) {
@@ -72,6 +158,15 @@ TEST_F(Window, ClicksGoToTheElementOrElseToTheForm) {
     QTest::mouseClick(&rig.Widget(form, "picHero"), Qt::LeftButton);
     QTest::mouseClick(client.childAt(30, 230) == nullptr ? &client : client.childAt(30, 230), Qt::LeftButton);
     EXPECT_EQ(clicked, "eff");
+
+    Sample other("Other");
+    other.lblFront.Click = other.shpPlate.Click = [&clicked] { clicked += 's'; };
+    rig.screen.Show(other);
+    QTest::mouseClick(rig.Widget(other).childAt(30, 230), Qt::LeftButton);
+    EXPECT_EQ(clicked, "effs") << "a shape that has something to do";
+    const auto hand = [&](const char* name) { return rig.Widget(other, name).cursor() == Qt::PointingHandCursor; };
+    EXPECT_TRUE(hand("lblFront") && hand("shpPlate") && hand("cmdPlain"));
+    EXPECT_FALSE(hand("lblBack") || hand("picHero"));
 }
 
 TEST_F(Window, ATextBoxTakesWhatItsFieldHolds) {
@@ -94,6 +189,31 @@ TEST_F(Window, ATextBoxTakesWhatItsFieldHolds) {
     EXPECT_EQ(rig.Widget(form).window()->focusWidget(), &edit);
 }
 
+TEST_F(Window, StandsWhereItsFormSaysOrInTheMiddle) {
+    rig.display.WindowOf(form)->move(80, 60);
+    Sample placed("Placed");
+    Sample centred("Centred");
+    placed.OnLoad = [&placed] { std::tie(placed.Left, placed.Top) = std::pair(270, 435); };
+    rig.screen.Show(placed);
+    rig.screen.Show(centred);
+    const QPoint middle = rig.display.WindowOf(centred)->frameGeometry().center();
+    const QPoint off = middle - QGuiApplication::primaryScreen()->availableGeometry().center();
+    const QPoint client = rig.Widget(form).mapToGlobal(QPoint(18, 29));
+    EXPECT_EQ(rig.display.WindowOf(placed)->geometry().topLeft(), client);
+    EXPECT_LE(off.manhattanLength(), 2);
+}
+
+TEST_F(Window, ProposesTheShapeAndTheNameOfThePage) {
+    QPrinter printer;
+    ProposePage(*rig.display.WindowOf(form), printer);
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(printer.docName(), "Muestra");
+    form.Height = 7500;
+    rig.display.Refresh();
+    ProposePage(*rig.display.WindowOf(form), printer);
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
+}
+
 TEST_F(Window, PrintsTextsAsTexts) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("page.pdf");
@@ -111,16 +231,33 @@ TEST_F(Window, PrintsTextsAsTexts) {
     EXPECT_LT(content.size(), 200'000);
 }
 
-TEST(Factor, IsTheLargestStepAtWhichTheLargestWindowFits) {
+TEST(Places, KeepTheWholeWindowOnTheScreen) {
+    const Surroundings around{.desk = {1000, 0, 1366, 740}, .origin = QPoint(1700, 500), .frame = {1, 30, 1, 1}};
+    struct Row {
+        int left, top;
+        QSize size;
+        QPoint place;
+    };
+    for (const Row& row : std::vector<Row>{{-1, -1, {364, 208}, {1501, 280}},
+                                           {150, 300, {300, 200}, {1710, 520}},
+                                           {7500, 4500, {300, 200}, {2065, 539}},
+                                           {150, 300, {1600, 900}, {1001, 30}}}) {
+        FormLook look;
+        look.Left = row.left;
+        look.Top = row.top;
+        EXPECT_EQ(PlaceOf(look, row.size, Scale(1), around), QRect(row.place, row.size)) << row.left;
+    }
+}
+
+TEST(Factor, IsTheLargestAtWhichTheLargestWindowFits) {
     struct Row {
         int width, height;
         double factor;
     };
-    for (const Row& row :
-         std::vector<Row>{{1024, 768, 1.23}, {1366, 768, 1.23}, {1920, 1080, 1.75}, {3840, 2160, 3.58}}) {
+    for (const Row& row : std::vector<Row>{
+             {800, 480, 0.74}, {1024, 768, 1.23}, {1366, 768, 1.23}, {1280, 1280, 1.6}, {3840, 2160, 3.58}}) {
         EXPECT_EQ(Scale::For({row.width, row.height}).Factor(), row.factor) << row.width;
     }
-    EXPECT_LT(Scale::For({800, 480}).Factor(), 1);
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ struct Dialog : Form {
     CommandButton no{*this, "no", {1200, 150, 900, 450}, {.Cancel = true, .TabIndex = 3}};
     TextBox box{*this, "box", {150, 750, 1500, 450}, {.MaxLength = 5, .TabIndex = 1}};
     ListBox list{*this, "list", {1800, 750, 1500, 1500}, {.TabIndex = 4}};
+    CommandButton sign{*this, "sign", {2250, 150, 900, 450}, {}};
     Timer tick{*this, "tick", 100, true};
 };
 
@@ -104,6 +105,24 @@ TEST_F(Windows, TimersDueTogetherComeInTheOrderOfTheirStart) {
     EXPECT_EQ(story, "sffs");
 }
 
+TEST(Timers, DoNotMakeUpForMissedTicks) {
+    Moment now(0);
+    Main form;
+    Scheduler scheduler([&now] { return now; });
+    for (Timer* timer : {&form.fast, &form.slow}) {
+        timer->Attach(scheduler);
+        timer->Start();
+    }
+    now = Moment(1000);
+    EXPECT_EQ(scheduler.TakeDue(now), &form.fast);
+    EXPECT_EQ(scheduler.TakeDue(now), &form.slow);
+    EXPECT_EQ(scheduler.TakeDue(now), nullptr);
+    EXPECT_EQ(scheduler.NextDue(), Moment(1100));
+    now = Moment(1120);
+    EXPECT_EQ(scheduler.TakeDue(now), &form.fast);
+    EXPECT_EQ(scheduler.NextDue(), Moment(1150)) << "a tick that is late does not put off the others";
+}
+
 TEST_F(Windows, AModalFormBlocksInputAndLetsTimersGoOn) {
     main.fast.Start();
     ShowModal({[this] { EXPECT_EQ(hand.Click(main.button), Refusal::Blocked); },
@@ -150,7 +169,9 @@ TEST_F(Windows, KeysGoTheirWay) {
     EXPECT_EQ(story, "<13>") << "the shortcut of a disabled entry is no letter";
     ShowModal({[this] { hand.Press({.Code = KeyEscape, .Character = 27}); }, [this] { hand.Press(KeyOf(u'x')); },
                [this] { EXPECT_EQ(dialog.box.Text, u"x"); }, [this] { hand.Click(dialog.no); },
-               [this] { hand.Press({.Code = KeySpace, .Character = u' '}); }, [this] { hand.Close(); }});
+               [this] { hand.Press({.Code = KeySpace, .Character = u' '}); }, [this] { hand.Click(dialog.sign); },
+               [this] { EXPECT_EQ(dialog.Focus(), &dialog.no) << "what takes no focus leaves it where it is"; },
+               [this] { hand.Close(); }});
     EXPECT_EQ(story, "<13>LnnnQ.");
 }
 
