@@ -1,5 +1,6 @@
 #include "desktop/Ring.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 
 namespace platform::desktop {
@@ -21,6 +22,8 @@ void Ring::Surround(const QWidget* widget) {
 
 void Ring::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    // A page shows the window, not where the keys are.
+    if (painter.paintEngine()->type() != QPaintEngine::Raster) return;
     const auto band = [&](int inset, Qt::GlobalColor color) {
         const QRect outer = rect().adjusted(inset, inset, -inset, -inset);
         const QRegion inner(outer.adjusted(band_, band_, -band_, -band_));
