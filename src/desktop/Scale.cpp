@@ -29,7 +29,7 @@ const QStringList& Families(FontName name) {
 
 /// In percent: MS Sans Serif is a trifle narrower than what stands in for it, and texts are laid out to the line.
 int StretchOf(FontName name) {
-    return name == FontName::MSSansSerif ? 97 : 100;
+    return name == FontName::MSSansSerif ? 96 : 100;
 }
 
 }  // namespace

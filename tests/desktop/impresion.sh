@@ -57,7 +57,8 @@ xdotool type --delay 80 rodila
 window 'Enhorabuena'
 press Return
 window 'PREMIO'
-for _ in 1 2 3 4 5 6 7 8 9 10; do press Left Left Left Left Left Left Left Left Left; done
+for _ in $(seq 29); do xdotool key --delay 20 Left Left Left; done  # open: from here on the arrows move the ring
+sleep 0.5
 press Tab
 print_page PREMIO 'Begoña' 'Castellano' 'IMPRIMIR'
 press Escape
