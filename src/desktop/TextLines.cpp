@@ -18,6 +18,10 @@ QString Unbroken(QString text) {
 
 TextLines::TextLines(const QString& text, const QFont& font, int width) : layout_(Unbroken(text), font), width_(width) {
     const double height = QFontMetricsF(font).height();
+    // Advances in whole pixels would make lines longer at some sizes than at others.
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    layout_.setTextOption(option);
     layout_.setCacheEnabled(true);
     layout_.beginLayout();
     for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
