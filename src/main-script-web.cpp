@@ -24,6 +24,7 @@ ZARPI_PAGE("is_new") bool page_is_new();
 [[noreturn]] ZARPI_PAGE("finish") void page_finish(const char* answers, std::size_t length, const char* error,
                                                    std::size_t errorLength, int status);
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the run-time library's
 /// An exception has nobody to catch it here.
 [[noreturn]] void __cxa_throw(void* thrown, void* /*type*/, void (* /*destroy*/)(void*)) {
     const std::string_view what = static_cast<std::exception*>(thrown)->what();
@@ -32,6 +33,7 @@ ZARPI_PAGE("is_new") bool page_is_new();
 void* __cxa_allocate_exception(std::size_t size) noexcept {
     return std::malloc(size);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 }
 
 namespace {
