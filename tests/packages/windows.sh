@@ -77,8 +77,8 @@ window 'Nivel 1'
 shot 02-nivel
 press Return
 window 'Nombre del jugador'
-xdotool type --delay 100 'Toño y Á'
-sleep 0.5
+xdotool type --delay 100 'Toño y '
+press dead_acute a
 shot 03-nombre
 press Return
 press Return
@@ -117,9 +117,9 @@ expect Ultimo.dat ' 0 '
 shot 06-reanudada
 press ctrl+g
 window 'Guardar'
-xdotool type --delay 100 'ñandú'
+xdotool type --delay 100 'ñandu'
 press Tab
-xdotool type --delay 100 'ñandú'
+xdotool type --delay 100 'ñandu'
 shot 07-guardar
 press Return
 sleep 2
@@ -129,7 +129,7 @@ wineserver -w
 start
 press a
 window 'Versión 1.5'
-resume 'ñandú'
+resume 'ñandu'
 expect Ultimo.dat ' 0 '
 shot 08-otra-vez
 press ctrl+u
