@@ -121,8 +121,8 @@ xdotool type --delay 100 'ñandu'
 press Tab
 xdotool type --delay 100 'ñandu'
 shot 07-guardar
+sleep 1
 press Return
-sleep 2
 expect Ultimo.dat ' 1 '
 press ctrl+s
 wineserver -w
