@@ -77,8 +77,8 @@ window 'Nivel 1'
 shot 02-nivel
 press Return
 window 'Nombre del jugador'
-xdotool type --delay 100 'Toño y Á'
-sleep 0.5
+xdotool type --delay 100 'Toño y '
+press dead_acute a
 shot 03-nombre
 press Return
 press Return
@@ -117,19 +117,19 @@ expect Ultimo.dat ' 0 '
 shot 06-reanudada
 press ctrl+g
 window 'Guardar'
-xdotool type --delay 100 'ñandú'
+xdotool type --delay 100 'ñandu'
 press Tab
-xdotool type --delay 100 'ñandú'
+xdotool type --delay 100 'ñandu'
 shot 07-guardar
+sleep 1
 press Return
-sleep 2
 expect Ultimo.dat ' 1 '
 press ctrl+s
 wineserver -w
 start
 press a
 window 'Versión 1.5'
-resume 'ñandú'
+resume 'ñandu'
 expect Ultimo.dat ' 0 '
 shot 08-otra-vez
 press ctrl+u
