@@ -71,12 +71,6 @@ Text Frase(Text text) {
     return text;
 }
 
-void Añadir(Text& said, const Text& sentence) {
-    if (sentence.empty()) return;
-    if (!said.empty()) said += u' ';
-    said += sentence;
-}
-
 Text Fila(const Form& form, const Lista& list, int row) {
     Text said;
     for (const Columna& column : list.Columnas) {
@@ -104,7 +98,7 @@ Text Entera(const Form& form) {
     };
     std::ranges::sort(labels, {}, place);
     Text said;
-    for (const Control* label : labels) Añadir(said, Frase(SpokenNameOf(*label)));
+    for (const Control* label : labels) voz::Añadir(said, Frase(SpokenNameOf(*label)));
     return said;
 }
 
@@ -118,14 +112,14 @@ Text ContenidoDe(const Form& form) {
         said = content.Texto;
         for (const std::string_view name : content.Elementos) {
             const Control* const element = name.empty() ? nullptr : form.Find(name);
-            if (element != nullptr && element->Visible) Añadir(said, Frase(Nombre(*element)));
+            if (element != nullptr && element->Visible) voz::Añadir(said, Frase(Nombre(*element)));
         }
     }
     for (const Lista& list : kLists) {
         if (list.Form != form.Name) continue;
         Text rows;
-        for (int row = 1; row <= kRows; ++row) Añadir(rows, Fila(form, list, row));
-        Añadir(said, rows.empty() ? Text(u"No hay ninguna partida.") : rows);
+        for (int row = 1; row <= kRows; ++row) voz::Añadir(rows, Fila(form, list, row));
+        voz::Añadir(said, rows.empty() ? Text(u"No hay ninguna partida.") : rows);
     }
     return said;
 }

@@ -44,6 +44,12 @@ Text SinMayúsculas(TextView line) {
 
 }  // namespace
 
+void Añadir(Text& said, const Text& sentence) {
+    if (sentence.empty()) return;
+    if (!said.empty()) said += u' ';
+    said += sentence;
+}
+
 Text Contar(int number, TextView one, TextView many) {
     return Decimal(number) + u" " + Text(number == 1 ? one : many);
 }

@@ -5,6 +5,9 @@
 /// How things are said to somebody who does not see them.
 namespace juego::voz {
 
+/// Puts a sentence behind what is said already; an empty one changes nothing.
+void Añadir(Text& said, const Text& sentence);
+
 /// "1 fallo", "3 fallos".
 Text Contar(int number, TextView one, TextView many);
 

@@ -18,12 +18,6 @@ Text Comentario(const Zarpi& z) {
     return {};
 }
 
-void Añadir(Text& said, const Text& sentence) {
-    if (sentence.empty()) return;
-    if (!said.empty()) said += u' ';
-    said += sentence;
-}
-
 }  // namespace
 
 Voz::Dicho Voz::Ahora() const {
@@ -50,27 +44,27 @@ Text Voz::Resultado(const Dicho& now) const {
     const int left = reglas::FallosCaída - now.Fallos;
     Text said =
         u"Mal: " + z.Letra + u". " + (left == 1 ? u"Queda " : u"Quedan ") + voz::Contar(left, u"fallo.", u"fallos.");
-    if (now.Mensaje != u"Mal.") Añadir(said, now.Mensaje);
+    if (now.Mensaje != u"Mal.") voz::Añadir(said, now.Mensaje);
     return said;
 }
 
 Text Voz::Novedades(const Dicho& now) const {
     const bool sameWord = now.Palabra == dicho.Palabra;
     Text said;
-    if (now.Error && !dicho.Error) Añadir(said, z.lblMensajeError.Caption);
-    Añadir(said, retenido);
-    if (now.Mensaje != retenido) Añadir(said, Resultado(now));
-    if (now.Comodín != dicho.Comodín && now.Comodín) Añadir(said, voz::Comodines(z));
+    if (now.Error && !dicho.Error) voz::Añadir(said, z.lblMensajeError.Caption);
+    voz::Añadir(said, retenido);
+    if (now.Mensaje != retenido) voz::Añadir(said, Resultado(now));
+    if (now.Comodín != dicho.Comodín && now.Comodín) voz::Añadir(said, voz::Comodines(z));
     if (!now.Comodín && dicho.Comodín && now.Tablero == dicho.Tablero && now.Fallos == dicho.Fallos) {
-        Añadir(said, u"Comodín guardado.");
+        voz::Añadir(said, u"Comodín guardado.");
     }
-    if (sameWord && now.Tablero != dicho.Tablero && !z.fFinPartida) Añadir(said, now.Tablero + u".");
-    if (now.Contenido != dicho.Contenido || now.Ventana != dicho.Ventana) Añadir(said, now.Contenido);
+    if (sameWord && now.Tablero != dicho.Tablero && !z.fFinPartida) voz::Añadir(said, now.Tablero + u".");
+    if (now.Contenido != dicho.Contenido || now.Ventana != dicho.Ventana) voz::Añadir(said, now.Contenido);
     if (!sameWord && now.Palabra != 0) {
-        Añadir(said,
-               voz::Palabra(z) + u" " + voz::Contar(z.LargoPalabra, u"letra", u"letras") + u": " + now.Tablero + u".");
+        voz::Añadir(said, voz::Palabra(z) + u" " + voz::Contar(z.LargoPalabra, u"letra", u"letras") + u": " +
+                              now.Tablero + u".");
     }
-    if (now.Comentario != dicho.Comentario) Añadir(said, voz::LíneaDeZarpi(z, now.Comentario));
+    if (now.Comentario != dicho.Comentario) voz::Añadir(said, voz::LíneaDeZarpi(z, now.Comentario));
     return said;
 }
 
