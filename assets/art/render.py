@@ -6,9 +6,12 @@ written in the format that its place asks for.
 
 from __future__ import annotations
 
+import hashlib
+import struct
 import subprocess
 import sys
 import tempfile
+import zlib
 from pathlib import Path
 from typing import Callable, Iterator, NamedTuple
 
@@ -98,19 +101,31 @@ def write(picture: Picture, top: Path, work: Path) -> None:
         ending = ".png" if zoom > 1 and picture.ending == ".bmp" else picture.ending
         target = top / (picture.path + suffix + ending)
         target.parent.mkdir(parents=True, exist_ok=True)
-        convert(rendered(ink, zoom, work), target, picture.quality - COARSER[zoom])
+        convert(rendered(ink, zoom, work), target, picture.quality - COARSER[zoom], picture.ending == ".bmp")
         if zoom == 4 and ending == ".png":
             subprocess.run(["pngquant", "--speed", "1", "--strip", "--force", "--output", str(target), "256", str(target)], check=True)
+        if ending != picture.ending:
+            tell_source(target, top / (picture.path + picture.ending))
 
 
-def convert(plain: Path, target: Path, quality: int) -> None:
+def tell_source(large: Path, picture: Path) -> None:
+    """The game leaves a larger copy alone when the picture beside it is not the one that the copy was drawn with."""
+    head = 33                     # signature and IHDR; the text stands before the pixels, so that it is read without them
+    text = b"tEXtsource\0sha1:" + hashlib.sha1(picture.read_bytes()).hexdigest().encode()
+    chunk = struct.pack(">I", len(text) - 4) + text + struct.pack(">I", zlib.crc32(text))
+    plain = large.read_bytes()
+    large.write_bytes(plain[:head] + chunk + plain[head:])
+
+
+def convert(plain: Path, target: Path, quality: int, opaquely: bool) -> None:
     """Leaves out dates and names of programs, so that the same drawing gives the same bytes."""
     command = ["convert", str(plain), "-strip"]
     opaque = ["-background", "white", "-alpha", "remove", "-alpha", "off"]
+    small = ["-depth", "8", "-define", "png:compression-level=9", "-define", "png:exclude-chunks=date,time"]
     kinds = {
         ".bmp": [*opaque, "-type", "TrueColor", f"BMP3:{target}"],
         ".jpg": [*opaque, "-sampling-factor", "4:4:4" if quality > 84 else "4:2:0", "-quality", str(quality), f"JPEG:{target}"],
-        ".png": ["-depth", "8", "-define", "png:compression-level=9", "-define", "png:exclude-chunks=date,time", f"PNG32:{target}"],
+        ".png": [*opaque, *small, f"PNG24:{target}"] if opaquely else [*small, f"PNG32:{target}"],
     }
     subprocess.run(command + kinds[target.suffix], check=True)
 

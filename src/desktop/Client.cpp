@@ -11,13 +11,15 @@ Client::Client(QWidget* window) : QWidget(window) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void Client::SetGround(const QPixmap& picture, const QColor& color) {
-    picture_ = picture;
+void Client::SetGround(std::future<QImage> picture, const QColor& color) {
+    awaited_ = std::move(picture);
+    picture_ = {};
     color_ = color;
     update();
 }
 
 void Client::paintEvent(QPaintEvent* event) {
+    if (awaited_.valid()) picture_ = QPixmap::fromImage(awaited_.get());
     QPainter painter(this);
     if (picture_.isNull() || picture_.hasAlpha()) painter.fillRect(event->rect(), color_);
     if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);

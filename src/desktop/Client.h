@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
+#include <future>
 
 namespace platform::desktop {
 
@@ -11,8 +13,9 @@ class Client : public QWidget {
 public:
     explicit Client(QWidget* window);
 
-    /// The ground: a picture from the top left corner on, or a colour where the picture is null.
-    void SetGround(const QPixmap& picture, const QColor& color);
+    /// The ground: a picture from the top left corner on, waited for when it is first painted, or a colour where the
+    /// picture is null or not `valid`.
+    void SetGround(std::future<QImage> picture, const QColor& color);
 
     std::function<void()> OnFirstPaint;  ///< called once, when the window is up
 
@@ -20,6 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    std::future<QImage> awaited_;
     QPixmap picture_;
     QColor color_;
 };

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <QImage>
+#include <QSize>
+#include <QString>
 
 namespace platform::desktop {
 
-/// Whether `large` is the same drawing as `picture`, at a whole number of times its size. Two renderings of one drawing
-/// differ along their edges alone; a drawing that was changed anywhere is another one.
-bool BelongTogether(const QImage& picture, const QImage& large);
+/// Whether the file `large` shows the picture of the file `picture`, whose size is `own`, at `times` its size. A file
+/// that the game brings tells the picture that it was drawn with, `source` and the digest of that file; one of the
+/// player's own tells nothing.
+bool BelongTogether(const QString& picture, QSize own, const QString& large, int times);
 
 }  // namespace platform::desktop

@@ -78,8 +78,9 @@ void FormWindow::Refresh() {
     if (shown_ != static_cast<const FormLook&>(form_)) RefreshFrame();
     if (menu_) menu_->Refresh();
     RefreshLayers();
-    for (const auto& [control, view] : views_) view->Refresh();
-    LevelTexts();
+    bool changed = false;
+    for (const auto& [control, view] : views_) changed = view->Refresh() || changed;
+    if (changed) LevelTexts();
     RefreshFocus();
     cursor_.Refresh();
 }
@@ -114,7 +115,7 @@ void FormWindow::SetSize() {
 void FormWindow::SetGround() {
     const FormLook& look = form_;
     const bool pictured = !look.Background.empty();
-    client_.SetGround(pictured ? toolkit_.Pictures.Covering(look.Background, client_.size()) : QPixmap(),
+    client_.SetGround(pictured ? toolkit_.Pictures.Covering(look.Background, client_.size()) : std::future<QImage>(),
                       look.BackColor.IsNone() ? palette().color(QPalette::Window) : ToQt(look.BackColor));
 }
 

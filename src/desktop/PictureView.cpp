@@ -44,7 +44,7 @@ ImageView::ImageView(const Toolkit& toolkit, Image& element, QWidget& client) : 
     TakeClicks();
 }
 
-void ImageView::Refresh() {
+bool ImageView::Refresh() {
     if (!element_.Visible && !widget_.Pixmap().isNull()) {
         widget_.SetPixmap({});
         dropped_ = true;
@@ -52,7 +52,7 @@ void ImageView::Refresh() {
         dropped_ = false;
         Apply(element_);
     }
-    ElementView::Refresh();
+    return ElementView::Refresh();
 }
 
 void ImageView::Apply(const PictureLook& look) {

@@ -42,7 +42,7 @@ class ImageView : public ElementView<Image, PictureWidget> {
 public:
     ImageView(const Toolkit& toolkit, Image& element, QWidget& client);
 
-    void Refresh() override;
+    bool Refresh() override;
 
 protected:
     void Apply(const PictureLook& look) override;

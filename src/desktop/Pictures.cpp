@@ -76,30 +76,40 @@ QImage Choose(const Source& source, QSize own, int width) {
     std::ranges::copy_if(versions.rbegin(), versions.rend(), std::back_inserter(order),
                          [&enough](const Version& version) { return !enough(version); });
     for (const Version& version : order) {
-        QImage image = Decode(version.path);
         const bool isCompanion = source.isLoaded && version.times > 1;
-        if (!image.isNull() && (!isCompanion || BelongTogether(Decode(versions.front().path), image))) return image;
+        if (isCompanion && !BelongTogether(versions.front().path, own, version.path, version.times)) continue;
+        const QImage image = Decode(version.path);
+        if (!image.isNull()) return image;
     }
     return {};
 }
 
-/// A picture in `size` logical pixels.
-QPixmap Read(const Source& source, QSize size) {
+/// A picture in `size` logical pixels, read and scaled anew.
+QImage Read(const Source& source, QSize size, double ratio) {
     const QSize own = SizeOf(source);
     if (!own.isValid() || size.isEmpty()) return {};
-    const double ratio = qGuiApp->devicePixelRatio();
     const QSize target = (QSizeF(size) * ratio).toSize();
-    const QString path = source.versions.front().path;
-    const QString key = QStringLiteral("%1 %2 %3").arg(path).arg(target.width()).arg(target.height());
-    QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap)) return pixmap;
-
     QImage image = Choose(source, own, target.width());
     if (image.isNull()) return {};
     if (image.size() != target) image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    pixmap = QPixmap::fromImage(std::move(image));
-    pixmap.setDevicePixelRatio(ratio);
-    if (target.width() * target.height() <= kLargestKept) QPixmapCache::insert(key, pixmap);
+    image.setDevicePixelRatio(ratio);
+    return image;
+}
+
+/// A picture in `size` logical pixels, a small one from the last time.
+QPixmap Recall(const Source& source, QSize size) {
+    if (source.versions.empty()) return {};
+    const double ratio = qGuiApp->devicePixelRatio();
+    const QString key = QStringLiteral("%1 %2 %3 %4")
+                            .arg(source.versions.front().path)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(ratio);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap)) return pixmap;
+    pixmap = QPixmap::fromImage(Read(source, size, ratio));
+    const QSize pixels = pixmap.size();
+    if (!pixmap.isNull() && pixels.width() * pixels.height() <= kLargestKept) QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 
@@ -115,20 +125,22 @@ QSize Pictures::SizeOf(TextView file) const {
 
 QPixmap Pictures::OwnSize(const PictureLook& look) const {
     const Source source = SourceOf(look);
-    return Read(source, (QSizeF(desktop::SizeOf(source)) * scale_.Factor()).toSize());
+    return Recall(source, (QSizeF(desktop::SizeOf(source)) * scale_.Factor()).toSize());
 }
 
 QPixmap Pictures::Fitted(const PictureLook& look, QSize size) const {
-    return Read(SourceOf(look), size);
+    return Recall(SourceOf(look), size);
 }
 
 QPixmap Pictures::Stored(const std::string& name, QSize size) const {
     return Fitted(StoredLook(name), size);
 }
 
-QPixmap Pictures::Covering(const std::string& name, QSize area) const {
-    const Source source = SourceOf(StoredLook(name));
-    return Read(source, (QSizeF(desktop::SizeOf(source)) * scale_.Factor()).toSize().expandedTo(area));
+std::future<QImage> Pictures::Covering(const std::string& name, QSize area) const {
+    return std::async(std::launch::async, [=, factor = scale_.Factor(), ratio = qGuiApp->devicePixelRatio()] {
+        const Source source = SourceOf(StoredLook(name));
+        return Read(source, (QSizeF(desktop::SizeOf(source)) * factor).toSize().expandedTo(area), ratio);
+    });
 }
 
 }  // namespace platform::desktop

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
+#include <future>
 #include <string>
 
 #include "desktop/Scale.h"
@@ -26,8 +28,8 @@ public:
     /// A picture stored with a form scaled to `size`; null if there is none.
     [[nodiscard]] QPixmap Stored(const std::string& name, QSize size) const;
     /// A picture stored with a form, in its own size or as much larger as it takes to cover `area`; null if there is
-    /// none.
-    [[nodiscard]] QPixmap Covering(const std::string& name, QSize area) const;
+    /// none. A large one takes longer than all else in a window, so it is read beside the window's making: `get` waits.
+    [[nodiscard]] std::future<QImage> Covering(const std::string& name, QSize area) const;
 
 private:
     const Scale& scale_;

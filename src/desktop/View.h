@@ -30,8 +30,8 @@ public:
     View(const View&) = delete;
     View& operator=(const View&) = delete;
 
-    /// Shows what has changed since the last time, and touches nothing else.
-    virtual void Refresh() = 0;
+    /// Shows what has changed since the last time, and touches nothing else. Whether anything had changed.
+    virtual bool Refresh() = 0;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
     [[nodiscard]] const Control& Element() const { return element_; }
@@ -58,13 +58,16 @@ class ElementView : public View {
 public:
     ElementView(const Toolkit& toolkit, E& element, QWidget& client) : ElementView(toolkit, element, *new W(&client)) {}
 
-    void Refresh() override {
+    bool Refresh() override {
         const platform::Place& place = element_;
+        bool changed = place.Visible == widget_.isHidden();
         if (place.Visible) {
+            changed = changed || place_ != place || look_ != static_cast<const Look&>(element_);
             if (place_ != place) SetPlace(place);
             if (look_ != static_cast<const Look&>(element_)) SetLook(element_);
         }
         widget_.setVisible(place.Visible);
+        return changed;
     }
 
 protected:
