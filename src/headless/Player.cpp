@@ -34,11 +34,21 @@ Number ParseNumber(std::string_view text) {
     return number;
 }
 
+/// What stands between separators: one piece at least.
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+    std::vector<std::string_view> pieces;
+    for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+        pieces.push_back(text.substr(0, end));
+        text.remove_prefix(end + 1);
+    }
+    pieces.push_back(text);
+    return pieces;
+}
+
 /// Numbers between separators: "7-3-2004".
 std::vector<int> ParseNumbers(std::string_view text, char separator, std::size_t count) {
     std::vector<int> numbers;
-    std::stringstream in{std::string(text)};
-    for (std::string part; std::getline(in, part, separator);) numbers.push_back(ParseNumber<int>(part));
+    for (const std::string_view piece : Split(text, separator)) numbers.push_back(ParseNumber<int>(piece));
     if (numbers.size() != count) Fail("cannot be read: " + std::string(text));
     return numbers;
 }
@@ -183,11 +193,13 @@ void Player::QueueRnd(std::string_view rest) {
 }
 
 void Player::QueueDraw(std::string_view rest) {
-    const auto [n, of] = SplitWord(rest);
-    const auto [word, m] = SplitWord(of);
-    if (word != "of") Fail("cannot be read: " + std::string(rest));
     constexpr double kMiddle = 0.5;
-    platform_.random.Queue((ParseNumber<int>(n) - kMiddle) / ParseNumber<int>(m));
+    for (const std::string_view draw : Split(rest, ',')) {
+        const auto [n, of] = SplitWord(TrimmedView(draw));
+        const auto [word, m] = SplitWord(of);
+        if (word != "of") Fail("cannot be read: " + std::string(rest));
+        platform_.random.Queue((ParseNumber<int>(n) - kMiddle) / ParseNumber<int>(m));
+    }
 }
 
 void Player::Start(std::string_view /*rest*/) {
@@ -207,18 +219,21 @@ void Player::Click(std::string_view name) {
     Tell(name, TryClick(name));
 }
 
-void Player::PressKey(std::string_view name) {
-    Tell(name, means_.Hand.Press(ParseKey(name)));
+void Player::PressKey(std::string_view names) {
+    for (const std::string_view name : Split(names, ' ')) {
+        static_cast<void>(ParseKey(name));
+        keys_.emplace_back(name);
+    }
 }
 
 void Player::PressKeys(std::string_view text) {
-    keys_ = FromUtf8(text);
+    for (const char16_t character : FromUtf8(text)) keys_.push_back(ToUtf8(Text(1, character)));
 }
 
 void Player::PressNextKey() {
-    const Text character = keys_.substr(0, 1);
-    keys_.erase(0, 1);
-    PressKey(ToUtf8(character));
+    const std::string name = std::move(keys_.front());
+    keys_.pop_front();
+    Tell(name, means_.Hand.Press(ParseKey(name)));
 }
 
 void Player::Type(std::string_view rest) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <iosfwd>
 #include <optional>
@@ -65,7 +66,7 @@ private:
     void QueueDraw(std::string_view rest);
     void Start(std::string_view rest);
     void Click(std::string_view name);
-    void PressKey(std::string_view name);
+    void PressKey(std::string_view names);
     void PressKeys(std::string_view text);
     void Type(std::string_view rest);
     void Select(std::string_view rest);
@@ -111,7 +112,7 @@ private:
     std::ostream& out_;
     std::vector<std::string> lines_;
     std::size_t next_ = 0;
-    Text keys_;  ///< characters of a `keys` command still to be pressed, each a move of its own
+    std::deque<std::string> keys_;  ///< keys still to be pressed, each a move of its own
     bool started_ = false;
     bool ended_ = false;
     bool good_ = true;

@@ -40,58 +40,44 @@ TEST(Player, Answers) {
 click mnuNuevo
 start
 show forms
-show focus
 key a
 show Label5.Caption
 show lblTecla(1).FontSize
-show Zarpi.Label5.Visible
 show Zarpi.Height
-show tmrTiempo.Interval
 show mnuNuevo.Enabled
 show file Ultimo.dat
 show file Nada.dat
 click cmdMostrar
-click lblTecla(1)
 click frmNivel.cmdAceptar
 click mnuAcerca
 click mnuNuevo
 show focus
-show frmAcerca.Label2.Caption
 forget log
 click Label9
 show log
 show log
 key Esc
-key Ctrl+S
-key a
+key Ctrl+S a
 click Zarpi
-show forms
 show log
 )");
     EXPECT_EQ(outcome, Outcome::Good);
     EXPECT_EQ(answers, R"(refused mnuNuevo: closed
 forms = frmPresenta
-focus = none
 Label5.Caption = ""
 lblTecla(1).FontSize = 21.75
-Zarpi.Label5.Visible = True
 Zarpi.Height = 8220
-tmrTiempo.Interval = 100
 mnuNuevo.Enabled = True
 file Ultimo.dat = 20 30 20 0D 0A
 file Nada.dat = missing
 refused cmdMostrar: disabled
-refused lblTecla(1): hidden
 refused frmNivel.cmdAceptar: closed
 refused mnuNuevo: blocked
 focus = frmAcerca.cmdAceptar
-frmAcerca.Label2.Caption = " CREADO Y   PROGRAMADO POR"
 sound sonTeclado Open Teclado.wav
 sound sonTeclado Play
 sound sonTeclado Prev
-refused key a: closed
 refused Zarpi: closed
-refused show forms: closed
 end
 )");
 }
@@ -109,10 +95,10 @@ TEST(Player, TellsFailedExpectationsAndGoesOn) {
 
 TEST(Player, RefusesScriptsThatNameWhatIsNot) {
     for (const char* script :
-         {"jump", "start\nclick Nada", "start\nshow Label5.Nada", "start\nshow Nada.Caption", "key Ctrl+ñ", "wait x",
-          "date 31-2-2004", "time 10:00", "start\nclick lblTecla(28)", "draw 1 in 3", "write A.dat GG",
-          "expect refused key a", "start\nkey a\ntype Label5 \"x\"", "start\nkey a\nselect txtNombre 1",
-          "printer maybe", "forget it"}) {
+         {"jump", "start\nclick Nada", "start\nshow Label5.Nada", "key a Nada", "start\nshow Nada.Caption",
+          "key Ctrl+ñ", "wait x", "date 31-2-2004", "time 10:00", "start\nclick lblTecla(28)", "draw 1 of 3, 1 in 3",
+          "write A.dat GG", "expect refused key a", "start\nkey a\ntype Label5 \"x\"",
+          "start\nkey a\nselect txtNombre 1", "printer maybe", "forget it"}) {
         EXPECT_EQ(Play(script).outcome, Outcome::Unreadable) << script;
     }
 }
