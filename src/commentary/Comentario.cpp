@@ -12,7 +12,7 @@ namespace {
 constexpr int kWordLines = 23;
 constexpr int kAnguishLines = 16;
 constexpr int kFallLines = 15;
-constexpr TextView kVowels = u"AEIOUÁÉÍÓÚ";
+constexpr TextView kVowels = u"AEIOU";
 
 // The number that chance has drawn opens and closes the hints.
 bool OpensLetters(int p) {

@@ -10,7 +10,6 @@ namespace {
 constexpr std::string_view kName = "Diario.tmp";
 constexpr std::string_view kSetAside = "Diario.mal";
 constexpr int kMostSetAside = 99;
-constexpr int kNotThere = -1;  ///< the length of a file that does not exist
 
 /// What a journal holds: the pair it is about, its records that counted, and its counter.
 struct Contenido {
@@ -42,9 +41,9 @@ std::optional<std::string_view> TakeEntry(std::string_view& journal, std::string
     const char* const lengthEnd = journal.data() + end;
     int length = 0;
     const auto number = std::from_chars(journal.data() + name.size() + 1, lengthEnd, length);
-    if (number.ec != std::errc() || number.ptr != lengthEnd || length < kNotThere) return std::nullopt;
+    if (number.ec != std::errc() || number.ptr != lengthEnd || length < 0) return std::nullopt;
     journal.remove_prefix(end + 1);
-    const auto size = static_cast<std::size_t>(std::max(length, 0));
+    const auto size = static_cast<std::size_t>(length);
     if (size > longest || size > journal.size()) return std::nullopt;
     const auto content = journal.substr(0, size);
     journal.remove_prefix(size);

@@ -163,32 +163,3 @@ void JugadorAlAzar::TypeAnything() {
         if (control->kind == Kind::ListBox) Hand().Select(static_cast<ListBox&>(*control), Pick(4));
     }
 }
-
-std::string JugadorQueSabe::Win() {
-    moves_ = 5000;
-    Restart();
-    Run();
-    if (!fault_.empty()) return fault_;
-    const juego::Zarpi& z = Game();
-    if (z.NúmPalabra != 31 || z.puntos != 450 || z.plenos != 30) return "not won";
-    if (z.Modo != mode_) return "another mode";
-    const auto& pair = juego::ArchivosHonor.at(static_cast<std::size_t>(mode_ - 1));
-    return juego::LeerContador(headless_->files, pair) == 1 ? "" : "not on the board";
-}
-
-void JugadorQueSabe::Move() {
-    if (&Front() != windows_.front()) return PressKey(kEnter);
-    if (!started_) {
-        const auto& mode = juego::Modos.at(static_cast<std::size_t>(mode_ - 1));
-        Hand().Click(static_cast<juego::VentanaZarpi&>(*windows_.front()).*mode.Entrada);
-        started_ = true;
-        Hand().Click(*windows_.front()->Find("mnuNuevo"));
-        return;
-    }
-    if (Game().fFinPartida) {
-        moves_ = 0;
-        return;
-    }
-    const char16_t letter = GoodLetter();
-    if (letter != 0) Press(letter);
-}

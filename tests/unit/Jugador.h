@@ -73,18 +73,3 @@ private:
     int games_ = 0;
     bool inPlay_ = false;
 };
-
-/// Knows every word, and wins.
-class JugadorQueSabe : public Jugador {
-public:
-    explicit JugadorQueSabe(int mode) : mode_(mode) {}
-
-    /// Plays a game to its end; what went wrong, or nothing.
-    std::string Win();
-
-private:
-    void Move() override;
-
-    int mode_;
-    bool started_ = false;
-};

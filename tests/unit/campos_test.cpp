@@ -1,11 +1,10 @@
-// Fields by name, and the tables that everything else rests on.
+// Fields by name, and the tables of the words.
 
 #include "game/Campos.h"
 
 #include <gtest/gtest.h>
 #include <set>
 
-#include "game/Teclas.h"
 #include "words/Tablas.h"
 
 namespace juego {
@@ -21,16 +20,6 @@ TEST(Campos, AreFoundByTheirNames) {
     for (const char* none : {"Nada", "PalabrasUsadas", "PalabrasUsadas(31)", "PalabrasUsadas(x)", "Fallo(1)", ""}) {
         EXPECT_EQ(ValorDeCampo(z, none), std::nullopt) << none;
     }
-}
-
-TEST(Teclas, HaveEveryLetterOnce) {
-    std::set<char16_t> letters;
-    for (int i = 1; i <= NúmTeclas; ++i) {
-        EXPECT_EQ(ÍndiceDeLetra(TeclaDeÍndice(i).Letra), i);
-        letters.insert(TeclaDeÍndice(i).Letra);
-    }
-    EXPECT_EQ(letters.size(), 27U);
-    EXPECT_EQ(ÍndiceDeLetra(u'Á'), 0);
 }
 
 TEST(Tablas, HoldTheirWordsAtTheirPlaces) {

@@ -3,11 +3,14 @@
 //
 // A change that means to alter the game records the numbers anew (ZARPI_CURSO=all prints them). To see where a course
 // leaves the old one, ZARPI_CURSO=3 writes course 3 down, for this build and for the one before, to be compared.
+//
+// The same of what is only looked at: the design of every window, and what the hero says at a fall.
 
 #include <gtest/gtest.h>
 #include <iostream>
 
 #include "Jugador.h"
+#include "commentary/FrasesReaccion.h"
 
 using namespace platform;
 
@@ -50,9 +53,36 @@ public:
         for (const Control* control : form.Controls()) Add(*control);
         for (const Menu* menu : form.Menus()) Add(*menu);
     }
+    /// What the course of a game does not change.
+    void AddDesign(const Form& form) {
+        Add(form);
+        for (const std::string& picture : {form.Background, form.Icon}) Add(picture);
+        for (const int number : {form.Width, form.Left, form.Top, form.BackColor.Rgb}) Add(number);
+        for (const Control* control : form.Controls()) {
+            switch (control->kind) {
+                case Kind::Label: AddLook(static_cast<const Label&>(*control)); break;
+                case Kind::PictureBox: Add(static_cast<const PictureBox&>(*control).Stored); break;
+                case Kind::Image: Add(static_cast<const Image&>(*control).Stored); break;
+                case Kind::Shape: AddLook(static_cast<const Shape&>(*control)); break;
+                case Kind::CommandButton: AddLook(static_cast<const CommandButton&>(*control)); break;
+                case Kind::TextBox: AddLook(static_cast<const TextBox&>(*control)); break;
+                default: break;
+            }
+        }
+    }
     [[nodiscard]] std::uint64_t Value() const { return value_; }
 
 private:
+    template <class Look>
+    void AddLook(const Look& look) {
+        if constexpr (requires { look.BackColor; }) Add(look.BackColor.Rgb);
+        if constexpr (requires { look.ForeColor; }) Add(look.ForeColor.Rgb);
+        if constexpr (requires { look.FontBold; }) Add(static_cast<int>(look.Font) + 8 * int{look.FontBold});
+        if constexpr (requires { look.Align; }) Add(static_cast<int>(look.Align));
+        if constexpr (requires { look.TabIndex; }) Add(look.TabIndex);
+        if constexpr (requires { look.Cancel; }) Add(look.Caption);
+        if constexpr (requires { look.FillColor; }) Add(look.FillColor.Rgb + static_cast<int>(look.Shape));
+    }
     void Mix(unsigned char byte) { value_ = (value_ ^ byte) * 1099511628211U; }
 
     std::uint64_t value_ = 14695981039346656037U;
@@ -174,6 +204,30 @@ TEST(Curso, IsWhatItWas) {
         EXPECT_EQ(digest, kCourses.at(course)) << "course " << course;
         if (wanted != nullptr) std::cout << "0x" << std::hex << digest << "U, ";
     }
+}
+
+TEST(Aspecto, IsWhatItWas) {
+    constexpr std::array<std::uint64_t, 13> kWindows = {
+        0xf55640dc688e886aU, 0x87d7f44ccc884a7dU, 0xd91d1a3b7337c2c4U, 0xe20631f51b60b3fU,  0xf8a92d75a664c556U,
+        0xdbe1af0c79f77bbbU, 0xdc48333951e5068U,  0x697333a32c2515a7U, 0x1fa1038eda4558f1U, 0xf77d29eede6c6279U,
+        0x4be5d31b67071a01U, 0xc7f1050b970806f8U, 0x2f7bbce1f6d19bd9U};
+    headless::MemoryFiles files;
+    const Platform platform(files);
+    juego::Juego juego(platform.Services().Services());
+    for (std::size_t i = 0; const Form* form : juego.Ventanas()) {
+        Digest digest;
+        digest.AddDesign(*form);
+        EXPECT_EQ(digest.Value(), kWindows.at(i++)) << form->Name << " 0x" << std::hex << digest.Value() << "U, ";
+    }
+    Digest lines;
+    for (const auto& table :
+         {std::span<const juego::Frase>(juego::frases::TablaAngustia), {juego::frases::TablaCaída}}) {
+        for (const juego::Frase& line : table) {
+            lines.Add(line.Singular);
+            lines.Add(line.Plural);
+        }
+    }
+    EXPECT_EQ(lines.Value(), 0xa2d6c63d636f48c8U) << std::hex << lines.Value();
 }
 
 }  // namespace
