@@ -101,6 +101,8 @@ TEST(Registros, AcceptAnyBytes) {
     EXPECT_EQ(game.Tiempo, 0);
     Decodificar(std::string(65, '9'), game);
     EXPECT_EQ(game.Aleator, 32767);
+    Decodificar(std::string(59, ' ') + " 40001", game);
+    EXPECT_EQ(game.Alea, 4000) << "what follows the last field is padding";
     FilaHonor row;
     Decodificar(std::string(42, '\0'), row);
     EXPECT_EQ(Trim(row.Nombre), u"");

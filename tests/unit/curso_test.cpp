@@ -81,6 +81,8 @@ private:
         if constexpr (requires { look.Align; }) Add(static_cast<int>(look.Align));
         if constexpr (requires { look.TabIndex; }) Add(look.TabIndex);
         if constexpr (requires { look.Cancel; }) Add(look.Caption);
+        if constexpr (requires { look.Locked; })
+            Add(look.MaxLength + 100 * int{look.Locked} + 200 * int{look.Password});
         if constexpr (requires { look.FillColor; }) Add(look.FillColor.Rgb + static_cast<int>(look.Shape));
     }
     void Mix(unsigned char byte) { value_ = (value_ ^ byte) * 1099511628211U; }
@@ -208,9 +210,9 @@ TEST(Curso, IsWhatItWas) {
 
 TEST(Aspecto, IsWhatItWas) {
     constexpr std::array<std::uint64_t, 13> kWindows = {
-        0xf55640dc688e886aU, 0x87d7f44ccc884a7dU, 0xd91d1a3b7337c2c4U, 0xe20631f51b60b3fU,  0xf8a92d75a664c556U,
-        0xdbe1af0c79f77bbbU, 0xdc48333951e5068U,  0x697333a32c2515a7U, 0x1fa1038eda4558f1U, 0xf77d29eede6c6279U,
-        0x4be5d31b67071a01U, 0xc7f1050b970806f8U, 0x2f7bbce1f6d19bd9U};
+        0xf55640dc688e886aU, 0x87d7f44ccc884a7dU, 0xd91d1a3b7337c2c4U, 0xe20631f51b60b3fU,  0x5e3d1c7ba710cd50U,
+        0x111aabdf048c9bdbU, 0xe8364811dcca4530U, 0x697333a32c2515a7U, 0x1fa1038eda4558f1U, 0x262875cf864cca5bU,
+        0xb84f93e703360f21U, 0xc7f1050b970806f8U, 0x2f7bbce1f6d19bd9U};
     headless::MemoryFiles files;
     const Platform platform(files);
     juego::Juego juego(platform.Services().Services());
