@@ -1,10 +1,8 @@
-// Measures a program's window from outside, on the X display at hand.
+// Measures the game's window from outside, on the X display at hand, beside windows of the same size with nothing in
+// them: from exec to the first window mapped, proportional memory with music playing, from a key press to the changed
+// pixel, CPU with and without a word in play.
 //
-//   window-bench start PROGRAM [ARGUMENT...]    from exec to its first window mapped, milliseconds
-//   window-bench play PROGRAM                   zarpi: from a key press to the changed pixel, CPU with and without a
-//   word in play,
-//                                               proportional memory with music playing
-//   window-bench memory PROGRAM [ARGUMENT...]   proportional memory of a window that does nothing
+//   window-bench ZARPI BARE    the two programs
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -30,6 +28,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
+using Words = std::vector<std::string>;
 
 double Milliseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::milli>(duration).count();
@@ -55,7 +54,7 @@ public:
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
 
-    /// The next window of some size that is mapped.
+    /// The next window of some size that is mapped; that size is noted.
     Window WaitForWindow() {
         while (true) {
             XEvent event;
@@ -63,9 +62,13 @@ public:
             XWindowAttributes attributes;
             if (event.type != MapNotify) continue;
             if (XGetWindowAttributes(display_, event.xmap.window, &attributes) == 0) continue;
-            if (attributes.width > 100) return event.xmap.window;
+            if (attributes.width <= 100) continue;
+            size_ = {std::to_string(attributes.width), std::to_string(attributes.height)};
+            return event.xmap.window;
         }
     }
+    /// Width and height of the last window.
+    [[nodiscard]] const Words& Size() const { return size_; }
     void Press(KeySym key, bool control = false) {
         const KeyCode code = XKeysymToKeycode(display_, key);
         const KeyCode held = XKeysymToKeycode(display_, XK_Control_L);
@@ -85,16 +88,20 @@ public:
 
 private:
     Display* display_;
+    Words size_;
 };
 
 /// A program that runs as long as this lives.
 class Child {
 public:
-    explicit Child(char** program) : pid_(fork()) {
+    explicit Child(const Words& command) : pid_(fork()) {
         if (pid_ != 0) return;
         const int nowhere = open("/dev/null", O_WRONLY);
         dup2(nowhere, STDERR_FILENO);
-        execv(program[0], program);
+        std::vector<char*> words;
+        for (const std::string& word : command) words.push_back(const_cast<char*>(word.c_str()));
+        words.push_back(nullptr);
+        execv(words[0], words.data());
         std::_Exit(127);
     }
     ~Child() {
@@ -130,27 +137,39 @@ private:
     pid_t pid_;
 };
 
-double StartOnce(Desk& desk, char** program) {
+double StartOnce(Desk& desk, const Words& command) {
     const auto start = Clock::now();
-    const Child child(program);
+    const Child child(command);
     desk.WaitForWindow();
     return Milliseconds(Clock::now() - start);
 }
 
-void Start(char** program) {
-    Desk desk;
-    StartOnce(desk, program);
+double Start(Desk& desk, const Words& command) {
+    StartOnce(desk, command);
     std::vector<double> times;
-    for (int i = 0; i < 11; ++i) times.push_back(StartOnce(desk, program));
-    std::printf("%-28s %8.1f ms\n", "exec to window mapped", Median(times));
+    for (int i = 0; i < 11; ++i) times.push_back(StartOnce(desk, command));
+    return Median(times);
 }
 
-void Memory(char** program) {
-    Desk desk;
-    const Child child(program);
+double Memory(Desk& desk, const Words& command) {
+    const Child child(command);
     desk.WaitForWindow();
     std::this_thread::sleep_for(2s);
-    std::printf("%-28s %8.1f MiB\n", "memory (PSS)", child.Memory());
+    return child.Memory();
+}
+
+void Tell(const char* what, const char* unit, double game, double bare) {
+    std::printf("%-28s %8.1f %s   bare %8.1f   %.2f x\n", what, game, unit, bare, game / bare);
+}
+
+Words Bare(const std::string& bare, const Words& size) {
+    return {bare, size[0], size[1]};
+}
+
+void CompareStart(const std::string& game, const std::string& bare) {
+    Desk desk;
+    const double time = Start(desk, {game});
+    Tell("exec to window mapped", "ms ", time, Start(desk, Bare(bare, desk.Size())));
 }
 
 double KeyToPixel(Desk& desk, Window window, KeySym key) {
@@ -163,18 +182,20 @@ double KeyToPixel(Desk& desk, Window window, KeySym key) {
     return Milliseconds(Clock::now() - start);
 }
 
-void Play(char** program) {
+void Play(const std::string& game, const std::string& bare) {
     std::vector<double> times;
     double idle = 0;
     double playing = 0;
     double memory = 0;
+    Words size;
     for (int round = 0; round < 2; ++round) {
         Desk desk;
-        const Child child(program);
+        const Child child({game});
         desk.WaitForWindow();
         std::this_thread::sleep_for(500ms);
         desk.Press(XK_space);
         const Window window = desk.WaitForWindow();
+        size = desk.Size();
         std::this_thread::sleep_for(1s);
         if (round == 0) idle = child.Cpu(5s);
         desk.Press(XK_n, true);
@@ -197,15 +218,14 @@ void Play(char** program) {
     std::printf("%-28s %8.2f ms\n", "key press to changed pixel", Median(times));
     std::printf("%-28s %8.3f %%\n", "CPU, no word in play", idle);
     std::printf("%-28s %8.3f %%\n", "CPU, a word in play", playing);
-    std::printf("%-28s %8.1f MiB\n", "memory (PSS), music playing", memory);
+    Desk desk;
+    Tell("memory (PSS), music playing", "MiB", memory, Memory(desk, Bare(bare, size)));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 3) return EXIT_FAILURE;
-    const std::string what = argv[1];
-    if (what == "start") Start(argv + 2);
-    if (what == "memory") Memory(argv + 2);
-    if (what == "play") Play(argv + 2);
+    if (argc != 3) return EXIT_FAILURE;
+    CompareStart(argv[1], argv[2]);
+    Play(argv[1], argv[2]);
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 
+#include "desktop/Assets.h"
 #include "desktop/Look.h"
 #include "hand/WidgetEye.h"
 #include "hand/WidgetHand.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     const platform::desktop::Scale scale =
         platform::desktop::Scale::For(QApplication::primaryScreen()->availableSize());
     platform::desktop::SetLook(scale);
+    platform::desktop::SetAssetFolders({".", QCoreApplication::applicationDirPath() + "/" ZARPI_ASSETS});
 
     platform::headless::FolderFiles files;
     platform::desktop::WindowDisplay display(scale);

@@ -11,7 +11,6 @@
 #include "desktop/Announcer.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/FormPrinter.h"
-#include "desktop/GameFolder.h"
 #include "desktop/Heartbeat.h"
 #include "desktop/Look.h"
 #include "desktop/MediaPlayer.h"
@@ -48,7 +47,7 @@ class Desktop::Parts {
 public:
     Parts(int& argc, char** argv);
 
-    bool EnterFolder(const GameFolder::Furnisher& furnish);
+    bool EnterFolder(const GameFolder::Keeper& keeper);
     int Run();
     platform::Services& Services() { return services_; }
 
@@ -93,9 +92,9 @@ Desktop::Parts::Parts(int& argc, char** argv)
     };
 }
 
-bool Desktop::Parts::EnterFolder(const GameFolder::Furnisher& furnish) {
+bool Desktop::Parts::EnterFolder(const GameFolder::Keeper& keeper) {
     QApplication::setApplicationName("zarpi");
-    const bool free = folder_.Enter(GameFolder::SystemPlaces(), furnish);
+    const bool free = folder_.Enter(GameFolder::SystemPlaces(), keeper);
     if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
     return free;
 }
@@ -130,8 +129,8 @@ platform::Services& Desktop::Services() {
     return parts_->Services();
 }
 
-bool Desktop::EnterFolder(const GameFolder::Furnisher& furnish) {
-    return parts_->EnterFolder(furnish);
+bool Desktop::EnterFolder(const GameFolder::Keeper& keeper) {
+    return parts_->EnterFolder(keeper);
 }
 
 int Desktop::Run() {

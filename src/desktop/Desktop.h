@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
+#include "desktop/GameFolder.h"
 #include "platform/Services.h"
 
 namespace platform::desktop {
@@ -11,7 +11,7 @@ namespace platform::desktop {
 ///
 ///     int main(int argc, char** argv) {
 ///         platform::desktop::Desktop desktop(argc, argv);
-///         if (!desktop.EnterFolder()) return EXIT_FAILURE;
+///         if (!desktop.EnterFolder(keeper)) return EXIT_FAILURE;
 ///         Game game(desktop.Services());
 ///         game.Start();
 ///         return desktop.Run();
@@ -25,8 +25,7 @@ public:
 
     /// Settles the game folder, which is the current one from here on. False, and the player told, if a game is already
     /// running there. To be called before anything is read or stored.
-    /// `furnish` stores what a new folder begins with.
-    bool EnterFolder(const std::function<bool(Files&)>& furnish);
+    bool EnterFolder(const GameFolder::Keeper& keeper);
 
     /// What the game works with; lives as long as this does.
     platform::Services& Services();

@@ -1,14 +1,28 @@
 #include "desktop/FormPrinter.h"
 
+#include <QDir>
+#include <QFile>
 #include <QPainter>
 #include <QPicture>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
 #include <algorithm>
 
 #include "desktop/WindowDisplay.h"
 
 namespace platform::desktop {
+
+namespace {
+
+/// Where a player looks for what a program has written; the current folder is that of the records.
+QString DocumentsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFile::exists(documents) ? documents : QDir::homePath();
+}
+
+}  // namespace
 
 FormPrinter::FormPrinter(WindowDisplay& display) : display_(display) {}
 
@@ -37,6 +51,8 @@ void ProposePage(const FormWindow& window, QPrinter& printer) {
     const QSize page = window.ClientArea().size();
     printer.setPageOrientation(page.width() > page.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setDocName(window.windowTitle());
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) return;
+    printer.setOutputFileName(DocumentsFolder() + '/' + printer.docName() + ".pdf");
 }
 
 void PrintWidget(QWidget& widget, QPrinter& printer) {

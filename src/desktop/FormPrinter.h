@@ -27,7 +27,7 @@ private:
 };
 
 /// Sets what the printer dialog begins with: a page as wide or high as the window is, the window's title as the name of
-/// the document and of a file.
+/// the document and, where there is no printer, of a file among the player's documents.
 void ProposePage(const FormWindow& window, QPrinter& printer);
 
 /// Draws the client area of a window onto a page.

@@ -1,55 +1,50 @@
 #include "desktop/GameFolder.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <algorithm>
-#include <array>
+#include <QSysInfo>
+#include <chrono>
 
+#include "desktop/Assets.h"
 #include "desktop/DurableFiles.h"
 
 namespace platform::desktop {
 
 namespace {
 
-/// The files that tell a game folder; one is enough, so that a damaged one is played in and told.
-constexpr std::array<const char*, 2> kMarks = {"Zarpi1.bmp", "Ultimo.dat"};
+/// Touched this often, a lock is alive; a lock of another machine's that was left alone for so much longer is not.
+constexpr auto kSignOfLife = std::chrono::minutes(1);
+constexpr auto kGone = 5 * kSignOfLife;
 
-bool HoldsTheGame(const QString& folder) {
-    return std::ranges::any_of(kMarks, [&folder](const char* mark) { return QFile::exists(folder + '/' + mark); });
-}
-
-bool Copy(const QString& from, const QString& into) {
-    const auto files = QDir(from).entryInfoList(QDir::Files);
-    return std::ranges::all_of(files, [&into](const QFileInfo& file) {
-        const QString copy = into + '/' + file.fileName();
-        return QFile::copy(file.filePath(), copy) &&
-               QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    });
-}
-
-bool FurnishIn(const QString& folder, const GameFolder::Furnisher& furnish) {
+bool InFolder(const QString& folder, const std::function<bool(Files&)>& question) {
     const QString before = QDir::currentPath();
-    QDir::setCurrent(folder);
+    if (folder.isEmpty() || !QDir::setCurrent(folder)) return false;
     DurableFiles files;
-    const bool done = furnish(files);
+    const bool answer = question(files);
     QDir::setCurrent(before);
-    return done;
+    return answer;
 }
 
-/// Makes the player's folder out of the shared one. It is put together aside and gets its name when it is complete: a
-/// folder of that name is never half furnished, and never furnished again.
-void Furnish(const QString& own, const QString& shared, const GameFolder::Furnisher& furnish) {
-    if (!QFile::exists(shared + '/' + kMarks[0])) return;
-    const QDir parent = QFileInfo(own).dir();
-    parent.mkpath(".");
-    QTemporaryDir aside(own + ".XXXXXX");
-    if (!aside.isValid() || !Copy(shared, aside.path()) || !FurnishIn(aside.path(), furnish)) return;
-    QFile::setPermissions(aside.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QDir().rmdir(own);  // an empty one would be in the way
-    if (QDir().rename(aside.path(), own)) aside.setAutoRemove(false);
+/// A folder for its owner's eyes only.
+void Make(const QString& folder) {
+    if (QFile::exists(folder) || !QDir().mkpath(folder)) return;
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/// Whether the lock is that of a program on this machine, of which the lock itself knows whether it runs.
+bool IsOfThisMachine(const QLockFile& lock) {
+    qint64 process = 0;
+    QString machine;
+    QString program;
+    return !lock.getLockInfo(&process, &machine, &program) || machine == QSysInfo::machineHostName();
+}
+
+void Touch(const QString& path) {
+    QFile file(path);
+    if (file.open(QIODevice::ReadWrite)) file.setFileTime(QDateTime::currentDateTime(), QFile::FileModificationTime);
 }
 
 }  // namespace
@@ -63,26 +58,33 @@ GameFolder::Places GameFolder::SystemPlaces() {
     return {program, shared, QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)};
 }
 
-bool GameFolder::Enter(const Places& places, const Furnisher& furnish) {
-    if (HoldsTheGame(QDir::currentPath())) return Lock();
-    if (HoldsTheGame(places.Program)) {
-        QDir::setCurrent(places.Program);
-        return Lock();
+bool GameFolder::Enter(const Places& places, const Keeper& keeper) {
+    if (!InFolder(QDir::currentPath(), keeper.Holds)) {
+        const bool isPortable = InFolder(places.Program, keeper.Holds);
+        if (!isPortable) Make(places.Own);
+        if (isPortable || InFolder(places.Own, keeper.Furnish)) {
+            QDir::setCurrent(isPortable ? places.Program : places.Own);
+        }
     }
-    const bool furnished = QFile::exists(places.Own + '/' + kMarks[0]);
-    if (!furnished) Furnish(places.Own, places.Shared, furnish);
-    if (QFile::exists(places.Own + '/' + kMarks[0])) QDir::setCurrent(places.Own);
+    SetAssetFolders({QDir::currentPath(), places.Program, places.Shared});
     return Lock();
 }
 
 bool GameFolder::Lock() {
-    lock_ = std::make_unique<QLockFile>(QDir::current().absoluteFilePath(".zarpi.lock"));
-    lock_->setStaleLockTime(0);  // only a program that is gone gives it up
+    const QString path = QDir::current().absoluteFilePath(".zarpi.lock");
+    lock_ = std::make_unique<QLockFile>(path);
+    const bool isHere = IsOfThisMachine(*lock_);
+    lock_->setStaleLockTime(isHere ? std::chrono::milliseconds(0) : kGone);
+    if (lock_->tryLock()) {
+        QObject::connect(&alive_, &QTimer::timeout, &alive_, [path] { Touch(path); });
+        alive_.start(kSignOfLife);
+    }
     // A folder that cannot be written to is played in all the same.
-    return lock_->tryLock() || lock_->error() != QLockFile::LockFailedError;
+    return lock_->isLocked() || lock_->error() != QLockFile::LockFailedError;
 }
 
 void GameFolder::Leave() {
+    alive_.stop();
     lock_.reset();
 }
 

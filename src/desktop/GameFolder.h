@@ -2,6 +2,7 @@
 
 #include <QLockFile>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
@@ -9,26 +10,31 @@
 
 namespace platform::desktop {
 
-/// The current folder of the program, where it finds its pictures and sounds and keeps what it stores.
+/// The folder where the game keeps what it stores, which is the current one from `Enter` on, and the folders where it
+/// finds its pictures and sounds (see Assets.h).
 ///
-/// A folder that holds the game's files is played in where it is: the current one (a portable copy, a test), else that
-/// of the program. An installed program plays in the player's own data folder, which it furnishes at its first start.
+/// What is stored stays in the folder that has it: the current one (a test, a folder chosen by hand), else that of the
+/// program (a portable copy). Everyone else plays in the player's own data folder. Pictures and sounds are looked for
+/// in the folder of what is stored, so that the player's own win, then beside the program, then in the shared folder.
 class GameFolder {
 public:
     struct Places {
         QString Program;  ///< the folder of the running program
-        QString Shared;   ///< the folder of the installed game's files
+        QString Shared;   ///< the folder of the installed game's pictures and sounds
         QString Own;      ///< the player's own data folder; need not exist yet
     };
     /// The places of an installed program on this system.
     static Places SystemPlaces();
 
-    /// Stores what a new folder of the game begins with. False on failure.
-    using Furnisher = std::function<bool(Files& files)>;
+    /// What is to be known of a folder, which is then the current one of `files`.
+    struct Keeper {
+        std::function<bool(Files& files)> Holds;    ///< whether anything of the game's is stored in it
+        std::function<bool(Files& files)> Furnish;  ///< stores what a new one begins with
+    };
 
-    /// Makes the game folder the current one and keeps other programs out of it. Where nothing is to be found or to be
-    /// furnished it stays where it is. False if a game is already running there.
-    bool Enter(const Places& places, const Furnisher& furnish);
+    /// Makes the game folder the current one and keeps other programs out of it. Where the player's own folder cannot
+    /// be made it stays where it is. False if a game is already running there.
+    bool Enter(const Places& places, const Keeper& keeper);
     /// Lets the next program in.
     void Leave();
 
@@ -36,6 +42,7 @@ private:
     bool Lock();
 
     std::unique_ptr<QLockFile> lock_;
+    QTimer alive_;  ///< tells other machines that the lock's owner is alive
 };
 
 }  // namespace platform::desktop

@@ -1,9 +1,11 @@
 #include "desktop/MediaPlayer.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 #include <QLibrary>
 #include <memory>
+
+#include "desktop/Assets.h"
 
 namespace platform::desktop {
 
@@ -38,7 +40,8 @@ void MediaPlayer::Start() {
 }
 
 void MediaPlayer::Command(const MediaChannel& channel, MediaCommand command) {
-    if (command == MediaCommand::Open) files_[channel.Name] = ToUtf8(channel.FileName);
+    if (command == MediaCommand::Open)
+        files_[channel.Name] = QFileInfo(AssetPath(channel.FileName)).absoluteFilePath().toStdString();
     if (command == MediaCommand::Open || command == MediaCommand::Prev) return;  // nothing to be heard
     MediaOrder order{channel.Name, files_[channel.Name], command, channel.OverMusic};
     if (command == MediaCommand::Close) files_.erase(channel.Name);

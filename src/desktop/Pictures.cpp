@@ -9,6 +9,7 @@
 #include <array>
 #include <vector>
 
+#include "desktop/Assets.h"
 #include "desktop/Companion.h"
 #include "desktop/Strings.h"
 
@@ -50,7 +51,7 @@ Source SourceOf(const PictureLook& look) {
     const auto add = [&source](const QString& path, int times) {
         if (QFile::exists(path)) source.versions.push_back({path, times});
     };
-    const QString file = source.isLoaded ? ToQt(look.Picture) : ":/forms/" + ToQt(std::string_view(look.Stored));
+    const QString file = AssetPath(source.isLoaded ? look.Picture : Text(u"forms/").append(FromUtf8(look.Stored)));
     const QString name = source.isLoaded ? file.left(file.lastIndexOf('.')) : file;
     if (source.isLoaded) {
         add(file, 1);
@@ -78,7 +79,7 @@ QImage Choose(const Source& source, QSize own, int width) {
     for (const Version& version : order) {
         const bool isCompanion = source.isLoaded && version.times > 1;
         if (isCompanion && !BelongTogether(versions.front().path, own, version.path, version.times)) continue;
-        const QImage image = Decode(version.path);
+        QImage image = Decode(version.path);
         if (!image.isNull()) return image;
     }
     return {};
@@ -100,11 +101,8 @@ QImage Read(const Source& source, QSize size, double ratio) {
 QPixmap Recall(const Source& source, QSize size) {
     if (source.versions.empty()) return {};
     const double ratio = qGuiApp->devicePixelRatio();
-    const QString key = QStringLiteral("%1 %2 %3 %4")
-                            .arg(source.versions.front().path)
-                            .arg(size.width())
-                            .arg(size.height())
-                            .arg(ratio);
+    const QString key =
+        QStringLiteral("%1 %2 %3 %4").arg(source.versions.front().path).arg(size.width()).arg(size.height()).arg(ratio);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
     pixmap = QPixmap::fromImage(Read(source, size, ratio));

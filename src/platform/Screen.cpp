@@ -13,7 +13,10 @@ void Screen::Load(Form& form) {
     loaded_.push_back(&form);
     for (Timer* timer : form.Timers()) timer->Attach(scheduler_);
     form.ToDesign();
-    FitPictures(form);
+    for (Control* control : form.Controls()) {
+        if (control->kind == Kind::PictureBox) fitted_.push_back({&form, static_cast<PictureBox*>(control), {}});
+    }
+    FitPictures();
     if (form.OnLoad) form.OnLoad();
 }
 
@@ -22,21 +25,18 @@ void Screen::Open(Form& form, bool modal) {
     if (!Contains(loaded_, form) || Contains(shown_, form)) return;
     shown_.push_back(&form);
     if (modal) modal_.push_back(&form);
-    FitPictures(form);
+    FitPictures();
     display_.Opened(form, modal);
 }
 
-void Screen::FitPictures(const Form& form) {
-    for (Control* control : form.Controls()) {
-        if (control->kind == Kind::PictureBox) FitToPicture(static_cast<PictureBox&>(*control));
-    }
+void Screen::FitPictures() {
+    for (auto& [form, box, fitted] : fitted_) FitToPicture(*box, fitted);
 }
 
-void Screen::FitToPicture(PictureBox& box) {
+void Screen::FitToPicture(PictureBox& box, Text& fitted) const {
     constexpr int kTwipsPerPixel = 15;
     constexpr int kLargest = 32767 / kTwipsPerPixel;
     const auto sensible = [](int pixels) { return pixels > 0 && pixels <= kLargest; };
-    Text& fitted = fitted_[&box];
     if (fitted == box.Picture) return;
     fitted = box.Picture;
     const auto size = fitted.empty() ? std::nullopt : display_.SizeOf(fitted);
@@ -69,6 +69,7 @@ void Screen::Unload(Form& form) {
     for (Timer* timer : form.Timers()) timer->Stop();
     Hide(form);
     std::erase(loaded_, &form);
+    std::erase_if(fitted_, [&form](const FittedBox& box) { return box.form == &form; });
     std::erase(closing_, &form);
 }
 
@@ -91,7 +92,7 @@ void Screen::Run(const std::function<void()>& handler) {
 }
 
 void Screen::Settle() {
-    for (const Form* form : loaded_) FitPictures(*form);
+    FitPictures();
     if (OnSettled) OnSettled();
     display_.Refresh();
 }

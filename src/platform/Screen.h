@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <optional>
 #include <vector>
 
@@ -84,10 +83,16 @@ public:
     static Text Acceptable(const TextBox& box, TextView text);
 
 private:
+    /// A box and the file to whose size it was last fitted.
+    struct FittedBox {
+        const Form* form;
+        PictureBox* box;
+        Text fitted;
+    };
     bool Contains(const std::vector<Form*>& forms, const Form& form) const;
     void Open(Form& form, bool modal);
-    void FitPictures(const Form& form);
-    void FitToPicture(PictureBox& box);
+    void FitPictures();
+    void FitToPicture(PictureBox& box, Text& fitted) const;
     void Run(const std::function<void()>& handler);
     void Settle();
     Refusal Trigger(Control& control);
@@ -101,7 +106,7 @@ private:
     std::vector<Form*> shown_;
     std::vector<Form*> modal_;
     std::vector<Form*> closing_;
-    std::map<const PictureBox*, Text> fitted_;  // the file to whose size a box was last fitted
+    std::vector<FittedBox> fitted_;  // of the loaded forms
 };
 
 }  // namespace platform

@@ -27,7 +27,13 @@ bool EscribirContador(Files& files, const Par& par, int count) {
     return files.Replace(par.Contador, line);
 }
 
+bool HayArchivos(Files& files) {
+    return std::ranges::any_of(
+        Pares, [&files](const Par& par) { return files.Exists(par.Contador) || files.Exists(par.Registros); });
+}
+
 bool EstrenarCarpeta(Files& files) {
+    if (std::ranges::any_of(Pares, [&files](const Par& par) { return files.Exists(par.Registros); })) return true;
     return std::ranges::all_of(
         Pares, [&files](const Par& par) { return files.Exists(par.Contador) || EscribirContador(files, par, 0); });
 }

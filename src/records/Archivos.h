@@ -50,7 +50,11 @@ std::optional<int> LeerContador(Files& files, const Par& par);
 /// Replaces the counter of a pair in one step. False on failure.
 bool EscribirContador(Files& files, const Par& par, int count);
 
-/// Furnishes a new game folder: every counter that is not there comes into being with 0. False on failure.
+/// Whether anything of the game's is stored in the folder.
+bool HayArchivos(Files& files);
+
+/// Furnishes a new game folder: every counter that is not there comes into being with 0. One that has records is not
+/// new, and stays as it is. False on failure.
 bool EstrenarCarpeta(Files& files);
 
 }  // namespace juego

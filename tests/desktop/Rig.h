@@ -2,10 +2,24 @@
 
 #include <QTest>
 
+#include "desktop/Assets.h"
 #include "desktop/Heartbeat.h"
 #include "desktop/WindowDisplay.h"
 
 namespace platform::desktop {
+
+/// Where the tests find the game's own pictures and sounds.
+inline QString GameAssets() {
+    return QCoreApplication::applicationDirPath() + "/" ZARPI_ASSETS;
+}
+
+/// Another folder that pictures and sounds come from, as long as this lives.
+struct AssetsFrom {
+    explicit AssetsFrom(const QString& folder) { SetAssetFolders({folder}); }
+    ~AssetsFrom() { SetAssetFolders({GameAssets()}); }
+    AssetsFrom(const AssetsFrom&) = delete;
+    AssetsFrom& operator=(const AssetsFrom&) = delete;
+};
 
 /// The desktop at a factor without the services.
 struct Rig {

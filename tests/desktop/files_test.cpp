@@ -1,3 +1,4 @@
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -11,6 +12,7 @@
 #endif
 
 #include "ContratoArchivos.h"
+#include "Rig.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/GameFolder.h"
 
@@ -26,6 +28,7 @@ struct Folder : testing::Test {
 
     const QString before = QDir::currentPath();
     const QTemporaryDir folder;
+    const AssetsFrom assets{folder.path()};
     DurableFiles files;
 };
 
@@ -61,32 +64,82 @@ TEST_F(Folder, AFileThatAnotherProgramHoldsKeepsItsContent) {
 }
 #endif
 
-TEST_F(Folder, AnInstalledGameFurnishesThePlayersFolderOnce) {
-    QDir().mkdir("share");
-    for (const char* name : {"share/Zarpi1.bmp", "share/Musica01.mid"}) EXPECT_TRUE(files.Replace(name, "art"));
-    QDir().mkdir("empty");
-    const GameFolder::Places places = {folder.filePath("empty"), folder.filePath("share"), folder.filePath("own")};
-    for (const bool first : {true, false}) {
-        QDir::setCurrent(folder.path());
-        GameFolder game;
-        EXPECT_TRUE(game.Enter(places, juego::EstrenarCarpeta));
-        EXPECT_EQ(QDir::current(), QDir(places.Own));
-        EXPECT_EQ(files.Read("UltCeI.dat"), first ? std::optional<std::string>(" 0 \r\n") : std::nullopt);
-        EXPECT_EQ(files.Read("Musica01.mid"), "art");
-        QFile::remove("UltCeI.dat");
+/// Folders of an installed game, and what is stored in them.
+struct Installed : Folder {
+    Installed() {
+        for (const char* name : {"here", "program", "share"}) QDir().mkdir(name);
     }
-    QDir::setCurrent(folder.path());
-    EXPECT_EQ(QDir().entryList(QDir::Dirs | QDir::NoDotAndDotDot), (QStringList{"empty", "own", "share"}));
+    /// The folder that is entered from "here".
+    QString Entered() {
+        QDir::setCurrent(folder.filePath("here"));
+        EXPECT_TRUE(GameFolder().Enter(places, keeper));
+        return QDir(folder.path()).relativeFilePath(QDir::currentPath());
+    }
+    void Store(const char* name, const char* content) {
+        QDir::setCurrent(folder.path());
+        EXPECT_TRUE(files.Replace(name, content));
+    }
+
+    const GameFolder::Places places = {folder.filePath("program"), folder.filePath("share"),
+                                       folder.filePath("a/ñandú")};
+    const GameFolder::Keeper keeper = {.Holds = juego::HayArchivos, .Furnish = juego::EstrenarCarpeta};
+};
+
+TEST_F(Installed, PlaysWhereTheGameIsStored) {
+    EXPECT_EQ(Entered(), "a/ñandú");
+    EXPECT_EQ(files.Read("UltCeI.dat"), " 0 \r\n");
+    EXPECT_EQ(QDir().entryList(QDir::Files).size(), 7);
+    EXPECT_TRUE(files.Remove("UltCeI.dat"));
+    EXPECT_EQ(Entered(), "a/ñandú");
+    EXPECT_TRUE(files.Exists("UltCeI.dat")) << "there are no records yet that it could belong to";
+    EXPECT_TRUE(files.Remove("UltCeI.dat"));
+    EXPECT_TRUE(files.Replace("CeI.rnd", "records"));
+    EXPECT_EQ(Entered(), "a/ñandú");
+    EXPECT_FALSE(files.Exists("UltCeI.dat")) << "a damaged folder is played in and told";
+    Store("program/Part.rnd", "");
+    EXPECT_EQ(Entered(), "program");
+    Store("here/Ultimo.dat", " 0 \r\n");
+    EXPECT_EQ(Entered(), "here");
+}
+
+TEST_F(Installed, ThePlayersOwnPictureWins) {
+    const auto read = [](TextView name) {
+        QFile file(AssetPath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : "none";
+    };
+    Store("share/Zarpi1.bmp", "installed");
+    EXPECT_EQ(Entered(), "a/ñandú");
+    EXPECT_EQ(read(u"Zarpi1.bmp"), "installed");
+    Store("share/Zarpi1.bmp", "a newer version's");
+    EXPECT_EQ(read(u"Zarpi1.bmp"), "a newer version's");
+    Store("program/Zarpi1.bmp", "portable");
+    EXPECT_EQ(read(u"Zarpi1.bmp"), "portable");
+    Store("a/ñandú/Zarpi1.bmp", "own");
+    EXPECT_EQ(read(u"Zarpi1.bmp"), "own");
+    EXPECT_EQ(read(u"Zarpi2.bmp"), "none");
 }
 
 TEST_F(Folder, OneGameAFolder) {
-    for (const char* name : {"Zarpi1.bmp", "Ultimo.dat"}) EXPECT_TRUE(files.Replace(name, "x"));
+    const GameFolder::Keeper keeper = {.Holds = [](Files&) { return true; }, .Furnish = {}};
     GameFolder first;
-    EXPECT_TRUE(first.Enter({}, {}));
-    EXPECT_FALSE(GameFolder().Enter({}, {}));
+    EXPECT_TRUE(first.Enter({}, keeper));
+    EXPECT_FALSE(GameFolder().Enter({}, keeper));
     first.Leave();
-    EXPECT_TRUE(GameFolder().Enter({}, {}));
+    EXPECT_TRUE(GameFolder().Enter({}, keeper));
     EXPECT_EQ(QDir::current(), QDir(folder.path()));
+}
+
+TEST_F(Folder, ALockOfAnotherMachineHoldsWhileItsGameIsAlive) {
+    const GameFolder::Keeper keeper = {.Holds = [](Files&) { return true; }, .Furnish = {}};
+    QFile lock(".zarpi.lock");
+    for (const int minutes : {2, 10}) {
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+        lock.write("1\nzarpi\notra-máquina\n" + QByteArray(36, 'a') + "\n" + QByteArray(36, 'b') + "\n");
+        lock.flush();
+        lock.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minutes), QFile::FileModificationTime);
+        lock.close();
+        EXPECT_EQ(GameFolder().Enter({}, keeper), minutes == 10) << minutes;
+    }
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ struct AtTheWindow : testing::Test {
         QImage(10, 10, QImage::Format_RGB32).save(folder.filePath("hero.bmp"));
         form.lblFront.Click = form.OnClick = [this] { ++clicks; };
         headless.screen.Show(form);
-        form.picHero.Picture = FromUtf8(folder.filePath("hero.bmp").toStdString());
+        form.picHero.Picture = u"hero.bmp";
         form.lstGames.List = {u"una", u"dos"};
         form.lstGames.ListIndex = 0;
         display.Refresh();
@@ -53,7 +53,8 @@ struct AtTheWindow : testing::Test {
         return out.str();
     }
 
-    QTemporaryDir folder;
+    const QTemporaryDir folder;
+    const desktop::AssetsFrom assets{folder.path()};
     headless::MemoryFiles files;
     headless::FolderFiles scriptFolder;
     Sample form;

@@ -1,25 +1,23 @@
 #!/usr/bin/env bash
 # The three windows that can be printed, printed for real into PDF files by way of the printer dialog; the texts of each
 # stand on its page as texts.
-#   impresion.sh GAME-FOLDER
+#   impresion.sh ZARPI ZARPI-SCRIPT    the programs
 set -euo pipefail
 
-game=$(realpath "$1")
 if [ -z "${ZARPI_WINDOW:-}" ]; then
-    ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24 -noreset" "$0" "$1"
+    ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24 -noreset" "$0" "$@"
 fi
 
 folder=$(mktemp -d)
-export HOME=$folder/casa SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
-mkdir "$HOME"
+export HOME=$folder XDG_DATA_HOME=$folder/datos SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 trap 'kill $program 2>/dev/null || true; rm -rf "$folder"' EXIT
-cp "$game"/* "$folder"
-for counter in "$folder"/*.dat; do printf ' 0 \r\n' >"$counter"; done
+records=$XDG_DATA_HOME/zarpi
+"$2" --new-folder "$records" /dev/null
 # A saved game at its last word, RODILLA, which one letter after another solves.
-printf ' 1 \r\n' >"$folder/Ultimo.dat"
-printf ' 30 3 0 60 190 14 9Bego\361a        28-12-2026 x          4    0     ' >"$folder/Guardar.rnd"
-cd "$folder"
-./zarpi 2>zarpi.log &
+printf ' 1 \r\n' >"$records/Ultimo.dat"
+printf ' 30 3 0 60 190 14 9Bego\361a        28-12-2026 x          4    0     ' >"$records/Guardar.rnd"
+cd "$HOME"
+"$1" 2>zarpi.log &
 program=$!
 
 press() { xdotool key --delay 60 "$@"; sleep 0.4; }

@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
+#include "Rig.h"
+
 /// What SDL keeps for itself until the process ends is no leak of the game's.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libSDL2\n";
@@ -11,5 +13,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     QApplication::setStyle("fusion");
     const QApplication app(argc, argv);
+    platform::desktop::SetAssetFolders({platform::desktop::GameAssets()});
     return RUN_ALL_TESTS();
 }

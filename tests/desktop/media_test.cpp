@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+#include "Rig.h"
 #include "desktop/MediaPlayer.h"
 
 namespace platform::desktop {
@@ -86,6 +87,7 @@ struct Sound : testing::Test {
 
     const QString before = QDir::currentPath();
     const QTemporaryDir folder;
+    const AssetsFrom assets{folder.path()};
     MediaPlayer player;
     MediaChannel music{"sonMusica(1)", {}};
 };

@@ -1,22 +1,18 @@
 #!/usr/bin/env bash
 # The game for real, in a virtual display, with keys from outside and a Spanish layout: a dead accent and a vowel are one
 # refused character, ñ is a letter, what has no letter never costs a miss, and a second program leaves.
-#   ventana.sh GAME-FOLDER
+#   ventana.sh ZARPI    the program
 set -euo pipefail
 
-game=$(realpath "$1")
 if [ -z "${ZARPI_WINDOW:-}" ]; then
     ZARPI_WINDOW=1 exec xvfb-run -a -s "-screen 0 1024x768x24 -noreset" "$0" "$1"
 fi
 
 folder=$(mktemp -d)
 trap 'kill $program 2>/dev/null || true; rm -rf "$folder"' EXIT
-cp "$game"/* "$folder"
-for counter in "$folder"/*.dat; do printf ' 0 \r\n' >"$counter"; done
-cd "$folder"
 setxkbmap es
-export SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
-./zarpi 2>zarpi.log &
+export XDG_DATA_HOME=$folder SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
+"$1" 2>"$folder/zarpi.log" &
 program=$!
 
 press() { xdotool key --delay 60 "$@"; sleep 0.3; }
@@ -50,7 +46,7 @@ press dead_acute e
 [ "$(misses)" = "$after" ] || fail "an accented vowel has cost a miss"
 
 # A second program in the same folder tells so and leaves when its notice is accepted.
-./zarpi 2>/dev/null &
+"$1" 2>/dev/null &
 second=$!
 sleep 1.5
 xdotool key Return

@@ -71,7 +71,7 @@ struct Exchanged : testing::Test {
     }
     /// The size of the box and the colour in the middle of the picture, once a file is loaded.
     std::pair<QSize, QRgb> Seen(const char* name) {
-        form.OnKeyPress = [&](int /*code*/) { form.picHero.Picture = FromUtf8(folder.filePath(name).toStdString()); };
+        form.OnKeyPress = [&](int /*code*/) { form.picHero.Picture = FromUtf8(name); };
         rig.screen.Press(KeyOf(u'x'));
         const QImage seen = rig.Widget(form, "picHero").grab().toImage();
         return {seen.size(), seen.pixel(seen.rect().center()) & 0xFFFFFFU};
@@ -81,6 +81,7 @@ struct Exchanged : testing::Test {
     static constexpr QRgb kRed = 0xFF0000;
     static constexpr QRgb kAlmostRed = 0xFE0000;
     const QTemporaryDir folder;
+    const AssetsFrom assets{folder.path()};
     Rig rig{2};
     Sample form;
 };
@@ -107,7 +108,7 @@ TEST_F(Exchanged, APictureGivesItsSizeAndItsOldCompanionsGo) {
 }
 
 TEST(Companions, EveryPoseHasItsOwn) {
-    const QDir art(QStringLiteral(ZARPI_POSES));
+    const QDir art(GameAssets());
     const QStringList poses = art.entryList({"Zarpi*.bmp"});
     EXPECT_EQ(poses.size(), 15);
     for (const QString& pose : poses) {
