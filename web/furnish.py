@@ -17,11 +17,14 @@ from fontTools import subset
 from PIL import Image
 
 FONTS = Path("/usr/share/fonts/truetype/liberation")
+# The characters of Windows-1252, all that the game can show; its letters in their boxes are capitals.
+CHARACTERS = bytes(code for code in range(32, 256) if code not in (127, 129, 141, 143, 144, 157)).decode("cp1252")
+CAPITALS = "ABCDEFGHIJKLMNÑOPQRSTUVWXYZÁÉÍÓÚ?"
 FONT_FILES = {
-    "sans": "LiberationSans-Regular.ttf",
-    "sans-bold": "LiberationSans-Bold.ttf",
-    "mono-bold": "LiberationMono-Bold.ttf",
-    "serif-bold": "LiberationSerif-Bold.ttf",
+    "sans": ("LiberationSans-Regular.ttf", CHARACTERS),
+    "sans-bold": ("LiberationSans-Bold.ttf", CHARACTERS),
+    "mono-bold": ("LiberationMono-Bold.ttf", CAPITALS),
+    "serif-bold": ("LiberationSerif-Bold.ttf", CHARACTERS),
 }
 QUALITY = 82
 ICON_SIZES = (32, 256)
@@ -70,14 +73,13 @@ def furnish_sounds(assets: Path, site: Path):
 
 
 def furnish_fonts(site: Path):
-    """The characters of Windows-1252, all that the game can show."""
-    characters = bytes(code for code in range(32, 256) if code not in (127, 129, 141, 143, 144, 157)).decode("cp1252")
     (site / "fonts").mkdir()
-    for name, file in FONT_FILES.items():
-        options = subset.Options(flavor="woff2", hinting=False, layout_features=["kern"], desubroutinize=True)
+    for name, (file, characters) in FONT_FILES.items():
+        options = subset.Options(flavor="woff2", hinting=False, layout_features=["kern"])
+        options.drop_tables += ["FFTM"]
         font = subset.load_font(str(FONTS / file), options)
         subsetter = subset.Subsetter(options)
-        subsetter.populate(text=characters + "▲▼…✓✕")
+        subsetter.populate(text=characters)
         subsetter.subset(font)
         subset.save_font(font, str(site / "fonts" / f"{name}.woff2"), options)
 
