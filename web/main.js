@@ -8,7 +8,7 @@ import { loadAll, setPictures } from "./pictures.js";
 import { printWindow } from "./printing.js";
 import { Program } from "./program.js";
 import { Sound } from "./sound.js";
-import { lockStorage, Storage } from "./storage.js";
+import { opened } from "./storage.js";
 import { loadFonts } from "./text.js";
 import { Window } from "./window.js";
 
@@ -152,7 +152,7 @@ async function loadAssets() {
 
 async function start() {
   const compiled = WebAssembly.compileStreaming(fetch("zarpi.wasm"));
-  const [alone, storage, assets] = await Promise.all([lockStorage(), Storage.open(), loadAssets(), loadFonts()]);
+  const [[alone, storage], assets] = await Promise.all([opened, loadAssets(), loadFonts()]);
   if (!alone) return showEnd("El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella.");
   setPictures(assets.pictures);
   const page = new Page(storage, assets);

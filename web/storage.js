@@ -116,3 +116,6 @@ export async function lockStorage() {
       .catch(() => resolve(true));
   });
 }
+
+/** The storage, opened while the rest of the page is still on its way. */
+export const opened = Promise.all([lockStorage(), Storage.open()]);
