@@ -4,7 +4,7 @@ import { ask, showEnd } from "./dialogs.js";
 import { showHelp } from "./help.js";
 import { keyOfCharacter, keyOfPress, shortcutLetter } from "./keys.js";
 import { Loop } from "./loop.js";
-import { loadAll, setPictures } from "./pictures.js";
+import { keepAll, loadAll, setPictures } from "./pictures.js";
 import { printWindow } from "./printing.js";
 import { Program } from "./program.js";
 import { Sound } from "./sound.js";
@@ -161,8 +161,17 @@ async function start() {
   page.listen();
   page.loop.start(program);
   if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
-  requestIdleCallback?.(() => loadAll(page.front?.twip ?? 1 / 15));
-  navigator.serviceWorker?.register("worker.js").catch(() => {});
+  keepForLater(() => page.front?.twip ?? 1 / 15);
+}
+
+/** Has the worker keep the page for days without a network, and loads what will be shown. */
+function keepForLater(twip) {
+  const whenIdle = globalThis.requestIdleCallback ?? setTimeout;
+  navigator.serviceWorker?.addEventListener("controllerchange", () => keepAll(twip()));
+  whenIdle(() => {
+    navigator.serviceWorker?.register("worker.js").catch(() => {});
+    loadAll(twip());
+  });
 }
 
 addEventListener("unhandledrejection", (event) => console.error(event.reason));
