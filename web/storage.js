@@ -116,6 +116,3 @@ export async function lockStorage() {
       .catch(() => resolve(true));
   });
 }
-
-/** The storage, opened while the rest of the page is still on its way. */
-export const opened = Promise.all([lockStorage(), Storage.open()]);
