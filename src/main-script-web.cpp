@@ -105,7 +105,6 @@ private:
         display_.Show();
         return Refusal::None;
     }
-    void PressOnFocus(const Key& key);
 
     Screen& screen_;
     web::PageDisplay& display_;
@@ -117,22 +116,9 @@ Refusal PageHand::Press(const Key& key) {
     if (refusal != Refusal::None) return refusal;
     const web::Event event = {"key", std::to_string(key.Code), std::to_string(static_cast<unsigned>(key.Character)),
                               key.Control ? "1" : "0"};
-    if (!display_.Take(event)) PressOnFocus(key);
+    if (!display_.Take(event)) screen_.TypeKey(key);
     display_.Show();
     return Refusal::None;
-}
-
-/// What the page does with a key that the program leaves.
-void PageHand::PressOnFocus(const Key& key) {
-    Control* const focus = screen_.Front() == nullptr ? nullptr : screen_.Front()->Focus();
-    if (focus == nullptr) return;
-    if (focus->kind == Kind::TextBox && key.Character >= u' ') {
-        auto& box = static_cast<TextBox&>(*focus);
-        Type(box, box.Text + key.Character);
-    } else if (focus->kind == Kind::ListBox && (key.Code == KeyUp || key.Code == KeyDown)) {
-        auto& list = static_cast<ListBox&>(*focus);
-        Select(list, list.ListIndex + (key.Code == KeyUp ? -1 : 1));
-    }
 }
 
 std::string Script() {
@@ -149,8 +135,11 @@ extern "C" {
 ZARPI_EXPORT("area") void* zarpi_area() {
     return nullptr;
 }
+ZARPI_EXPORT("open") void* zarpi_open() {
+    return nullptr;
+}
 
-ZARPI_EXPORT("run") void zarpi_run() {
+ZARPI_EXPORT("run") void zarpi_run(void* /*program*/) {
     ScriptFolder folder;
     if (page_is_new()) juego::EstrenarCarpeta(folder);
     const Scheduler none(web::Now);

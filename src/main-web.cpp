@@ -1,6 +1,7 @@
 // zarpi.wasm: the game in a page of a browser.
 
 #include <array>
+#include <memory>
 
 #include "records/Archivos.h"
 #include "shell/Juego.h"
@@ -18,6 +19,12 @@ struct Area {
     alignas(16) std::array<char, kArea> memory;
 };
 
+/// The game on its page.
+struct Program {
+    platform::web::Browser browser;
+    juego::Juego juego{browser.Services()};
+};
+
 }  // namespace
 
 extern "C" {
@@ -29,11 +36,16 @@ ZARPI_EXPORT("area") Area* zarpi_area() {
     return &area;
 }
 
-/// The program. Called again after each wait, it goes on where it was.
-ZARPI_EXPORT("run") void zarpi_run() {
-    platform::web::Browser browser;
+/// Puts the game together, which nothing can make wait: kept apart from what waits, for that is made larger and slower.
+ZARPI_EXPORT("open") Program* zarpi_open() {
+    return std::make_unique<Program>().release();
+}
+
+/// Plays. Called again after each wait, it goes on where it was.
+ZARPI_EXPORT("run") void zarpi_run(Program* program) {
+    platform::web::Browser& browser = program->browser;
+    juego::Juego& juego = program->juego;
     if (browser.IsNew()) juego::EstrenarCarpeta(browser.Services().Files);
-    juego::Juego juego(browser.Services());
     browser.OnUnsaved([&juego] { juego.AvisarError(); });
     juego.Start();
     browser.Run();

@@ -37,6 +37,7 @@ export function ask(title, content, buttons) {
     });
     dialog.showModal();
     row.firstChild.focus();
+    dialog.scrollTop = 0;
   });
 }
 

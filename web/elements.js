@@ -1,6 +1,6 @@
 // One DOM element for each element of a window, at its place, in twips.
 
-import { fileOf, load, pictureOf } from "./pictures.js";
+import { available, fileOf, pictureOf } from "./pictures.js";
 import { placeText, setFont, twips } from "./text.js";
 
 function make(tag, className, parent) {
@@ -106,8 +106,8 @@ class Picture extends Element {
     if (file === this.file) return;
     this.file = file;
     // The last picture stays until the new one can be shown.
-    load(file).then(() => {
-      if (this.file === file) this.image.src = file;
+    available(picture, file).then((found) => {
+      if (this.file === file) this.image.src = found;
     });
   }
 }

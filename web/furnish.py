@@ -17,13 +17,17 @@ from fontTools import subset
 from PIL import Image
 
 FONTS = Path("/usr/share/fonts/truetype/liberation")
+# The characters of Windows-1252, all that the game can show; its letters in their boxes are capitals.
+CHARACTERS = bytes(code for code in range(32, 256) if code not in (127, 129, 141, 143, 144, 157)).decode("cp1252")
+CAPITALS = "ABCDEFGHIJKLMNÑOPQRSTUVWXYZÁÉÍÓÚ?"
 FONT_FILES = {
-    "sans": "LiberationSans-Regular.ttf",
-    "sans-bold": "LiberationSans-Bold.ttf",
-    "mono-bold": "LiberationMono-Bold.ttf",
-    "serif-bold": "LiberationSerif-Bold.ttf",
+    "sans": ("LiberationSans-Regular.ttf", CHARACTERS),
+    "sans-bold": ("LiberationSans-Bold.ttf", CHARACTERS),
+    "mono-bold": ("LiberationMono-Bold.ttf", CAPITALS),
+    "serif-bold": ("LiberationSerif-Bold.ttf", CHARACTERS),
 }
-QUALITY = 82
+SIZES = (1, 2, 4)  # times that of the design
+QUALITY = {1: 82, 2: 82, 4: 75}
 ICON_SIZES = (32, 256)
 MUSIC = "ogg"
 
@@ -35,10 +39,16 @@ def picture_sources(assets: Path):
             yield path.stem, path
 
 
-def write_webp(source: Path, target: Path):
+def versions(path: Path):
+    """The files of a picture by their sizes, those that there are."""
+    larger = {size: list(path.parent.glob(f"{path.stem}@{size}x.*")) for size in SIZES}
+    return {1: path} | {size: files[0] for size, files in larger.items() if files}
+
+
+def write_webp(source: Path, target: Path, quality: int):
     with Image.open(source) as image:
         has_alpha = image.mode in ("RGBA", "P", "LA")
-        image.convert("RGBA" if has_alpha else "RGB").save(target, "WEBP", quality=QUALITY, method=6)
+        image.convert("RGBA" if has_alpha else "RGB").save(target, "WEBP", quality=quality, method=6)
         return image.size
 
 
@@ -49,11 +59,10 @@ def furnish_pictures(assets: Path, site: Path):
         shutil.copy(assets / f"icons/hicolor/{size}x{size}/apps/zarpi.png", folder / f"icon{size}.png")
     pictures = {}
     for name, path in picture_sources(assets):
-        width, height = write_webp(path, folder / f"{name}.webp")
-        pictures[name] = {"width": width, "height": height, "single": f"pictures/{name}.webp"}
-        for twice in sorted(path.parent.glob(f"{name}@2x.*")):
-            write_webp(twice, folder / f"{name}@2x.webp")
-            pictures[name]["double"] = f"pictures/{name}@2x.webp"
+        files = {size: f"pictures/{name}@{size}x.webp" for size in versions(path)}
+        sizes = {size: write_webp(file, site / files[size], QUALITY[size]) for size, file in versions(path).items()}
+        width, height = sizes[1]
+        pictures[name] = {"width": width, "height": height, "files": files}
     return pictures
 
 
@@ -70,25 +79,25 @@ def furnish_sounds(assets: Path, site: Path):
 
 
 def furnish_fonts(site: Path):
-    """The characters of Windows-1252, all that the game can show."""
-    characters = bytes(code for code in range(32, 256) if code not in (127, 129, 141, 143, 144, 157)).decode("cp1252")
     (site / "fonts").mkdir()
-    for name, file in FONT_FILES.items():
-        options = subset.Options(flavor="woff2", hinting=False, layout_features=["kern"], desubroutinize=True)
+    for name, (file, characters) in FONT_FILES.items():
+        options = subset.Options(flavor="woff2", hinting=False, layout_features=["kern"])
+        options.drop_tables += ["FFTM"]
         font = subset.load_font(str(FONTS / file), options)
         subsetter = subset.Subsetter(options)
-        subsetter.populate(text=characters + "▲▼…✓✕")
+        subsetter.populate(text=characters)
         subsetter.subset(font)
         subset.save_font(font, str(site / "fonts" / f"{name}.woff2"), options)
 
 
 def write_worker(page: Path, site: Path):
-    """The worker keeps all files but the music, which it keeps when it has been heard."""
-    files = sorted(path for path in site.rglob("*") if path.is_file() and path.suffix != f".{MUSIC}")
+    """The worker keeps all files but the music and the largest pictures, which it keeps when they have been asked for."""
+    files = sorted(path for path in site.rglob("*") if path.is_file())
     digest = hashlib.sha256()
     for path in files:
         digest.update(path.read_bytes())
-    names = ["./"] + [path.relative_to(site).as_posix() for path in files]
+    kept = [path for path in files if path.suffix != f".{MUSIC}" and not path.stem.endswith(f"@{SIZES[-1]}x")]
+    names = ["./"] + [path.relative_to(site).as_posix() for path in kept]
     head = f'const VERSION = "{digest.hexdigest()[:16]}";\nconst FILES = {json.dumps(names, ensure_ascii=False)};\n\n'
     (site / "worker.js").write_text(head + (page / "worker.js").read_text())
 

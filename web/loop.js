@@ -34,9 +34,12 @@ export class Loop {
     };
   }
 
+  /** Runs the program to its first wait. What it shows then tells nothing of what it wrote, and does not wait for it. */
   start(program) {
     this.#program = program;
-    this.#settle(program.start(), "start");
+    this.#ended = !program.start();
+    this.#showMessage();
+    if (this.#storage.hasNews) this.#store();
   }
 
   /** Whether an event is taken at once; otherwise it waits until what was written is stored. */
@@ -60,16 +63,16 @@ export class Loop {
   #settle(goesOn, event) {
     this.#ended = !goesOn;
     const retries = this.#unsaved && !OWN_EVENTS.includes(event);
-    if (this.#storage.hasNews || retries) this.#storeAndShow();
+    if (this.#storage.hasNews || retries) this.#store();
     else this.#showMessage();
   }
 
-  /** A failure is told once, until what could not be stored has been. */
-  async #storeAndShow() {
+  /** Stores, and shows what waits for it. A failure is told once, until what could not be stored has been. */
+  async #store() {
     this.#storing = true;
     const stored = await this.#storage.commit();
     this.#storing = false;
-    this.#showMessage();
+    if (this.#message.length > 0) this.#showMessage();
     const isNew = !stored && !this.#unsaved;
     this.#unsaved = !stored;
     if (isNew) this.send("unsaved");

@@ -1,16 +1,17 @@
 // Puts the page together: storage, program, windows, keys, sound.
 
 import { ask, showEnd } from "./dialogs.js";
-import { showHelp } from "./help.js";
 import { keyOfCharacter, keyOfPress, shortcutLetter } from "./keys.js";
 import { Loop } from "./loop.js";
-import { loadAll, setPictures } from "./pictures.js";
-import { printWindow } from "./printing.js";
+import { assets, compiled, opened } from "./opening.js";
+import { keepAll, loadAll, setPictures } from "./pictures.js";
 import { Program } from "./program.js";
 import { Sound } from "./sound.js";
-import { lockStorage, Storage } from "./storage.js";
 import { loadFonts } from "./text.js";
 import { Window } from "./window.js";
+
+/** Milliseconds that the first window has the network and the processor for itself. */
+const HEAD_START = 500;
 
 /** A device that is played with fingers alone. */
 const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
@@ -19,8 +20,8 @@ class Page {
   #windows = new Map();
   #keyboard = false; // to be opened when the main window is in front
 
-  constructor(storage, assets) {
-    this.sound = new Sound(assets.sounds);
+  constructor(storage, sounds) {
+    this.sound = new Sound(sounds);
     this.storage = storage;
     this.loop = new Loop(storage, (message) => this.#show(message), () => showEnd("Fin", "Gracias por jugar."));
   }
@@ -35,6 +36,7 @@ class Page {
     for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
     const help = document.getElementById("help");
     help.addEventListener("click", async () => {
+      const { showHelp } = await import("./help.js");
       await showHelp(this.storage);
       this.front?.takeFocus();
     });
@@ -68,7 +70,7 @@ class Page {
     stop: ({ channel }) => this.sound.stop(channel),
     message: ({ text, title }) => this.#answer(ask(title, text, ["Aceptar"])),
     askPrinter: () => this.#answer(ask("Imprimir", "Se imprimirá esta ventana, en una página apaisada.", ["Imprimir", "Cancelar"])),
-    print: ({ form }) => printWindow(this.#windows.get(form)),
+    print: ({ form }) => this.#print(this.#windows.get(form)),
     navigate: ({ address }) => open(/^https?:/.test(address) ? address : `https://${address}`, "_blank", "noopener"),
   };
 
@@ -87,6 +89,11 @@ class Page {
       document.title = this.front.node.getAttribute("aria-label");
       this.front.takeFocus();
     }
+  }
+
+  async #print(window) {
+    const { printWindow } = await import("./printing.js");
+    printWindow(window);
   }
 
   async #answer(asked) {
@@ -146,23 +153,28 @@ class Page {
   }
 }
 
-async function loadAssets() {
-  return (await fetch("assets.json")).json();
-}
-
 async function start() {
-  const compiled = WebAssembly.compileStreaming(fetch("zarpi.wasm"));
-  const [alone, storage, assets] = await Promise.all([lockStorage(), Storage.open(), loadAssets(), loadFonts()]);
+  const [[alone, storage], { pictures, sounds }] = await Promise.all([opened, assets, loadFonts()]);
   if (!alone) return showEnd("El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella.");
-  setPictures(assets.pictures);
-  const page = new Page(storage, assets);
+  setPictures(pictures);
+  const page = new Page(storage, sounds);
   const program = await Program.load(compiled, page.loop.page);
   document.getElementById("loading")?.remove();
   page.listen();
   page.loop.start(program);
   if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
-  requestIdleCallback?.(() => loadAll(page.front?.twip ?? 1 / 15));
-  navigator.serviceWorker?.register("worker.js").catch(() => {});
+  keepForLater(() => page.front?.twip ?? 1 / 15);
+}
+
+/** Has the worker keep the page for days without a network, and loads what will be shown. */
+function keepForLater(twip) {
+  const whenIdle = globalThis.requestIdleCallback ?? setTimeout;
+  navigator.serviceWorker?.addEventListener("controllerchange", () => keepAll(twip()));
+  const begin = () => {
+    navigator.serviceWorker?.register("worker.js").catch(() => {});
+    loadAll(twip());
+  };
+  setTimeout(() => whenIdle(begin), HEAD_START);
 }
 
 addEventListener("unhandledrejection", (event) => console.error(event.reason));

@@ -2,7 +2,7 @@
 
 let known = {};
 
-/** `pictures` maps each name to its width and height, in pixels of 15 twips, and its files of single and double size. */
+/** `pictures` maps each name to its width and height, in pixels of 15 twips, and its files by their size, 1, 2 or 4 times that. */
 export function setPictures(pictures) {
   known = pictures;
 }
@@ -28,22 +28,33 @@ export function pictureNamed(name) {
 /** The file of a picture that is sharp where a twip is `twip` pixels of the page long. */
 export function fileOf(picture, twip) {
   const pixels = twip * 15 * devicePixelRatio;
-  return pixels > 1.05 && picture.double ? picture.double : picture.single;
+  const sizes = Object.keys(picture.files).map(Number);
+  return picture.files[sizes.find((size) => pixels <= 1.05 * size) ?? sizes.at(-1)];
 }
 
 const loaded = new Map();
 
-/** Loads a file once; what was loaded stays, so that an animation never waits for the network. */
-export function load(file) {
-  if (!loaded.has(file)) {
-    const image = new Image();
-    image.src = file;
-    loaded.set(file, image.decode().catch(() => loaded.delete(file)));
-  }
-  return loaded.get(file);
+function load(file) {
+  const image = new Image();
+  image.src = file;
+  return image.decode().then(() => true, () => loaded.delete(file) && false);
+}
+
+/**
+ * Loads a file of a picture once; what was loaded stays, so that an animation never waits for the network. Comes back
+ * with the file, or with that of single size, which is always there, where the network does not give it.
+ */
+export async function available(picture, file) {
+  if (!loaded.has(file)) loaded.set(file, load(file));
+  return (await loaded.get(file)) ? file : picture.files[1];
 }
 
 /** Loads all pictures, one after the other. */
 export async function loadAll(twip) {
-  for (const picture of Object.values(known)) await load(fileOf(picture, twip));
+  for (const picture of Object.values(known)) await available(picture, fileOf(picture, twip));
+}
+
+/** Asks for all pictures once more, for the worker to keep. */
+export function keepAll(twip) {
+  for (const picture of Object.values(known)) fetch(fileOf(picture, twip)).catch(() => {});
 }

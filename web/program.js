@@ -8,6 +8,7 @@ class Ended {}
 export class Program {
   #exports;
   #area;
+  #game;
   #event = "";
   #page;
 
@@ -31,6 +32,7 @@ export class Program {
     this.#exports = instance.exports;
     instance.exports._initialize();
     this.#area = instance.exports.area();
+    this.#game = instance.exports.open();
   }
 
   /** Runs the program to its first wait. False when it has ended instead. */
@@ -47,7 +49,7 @@ export class Program {
 
   #run() {
     try {
-      this.#exports.run();
+      this.#exports.run(this.#game);
       this.#exports.asyncify_stop_unwind();
       return true;
     } catch (error) {

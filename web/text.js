@@ -7,6 +7,8 @@ const SPACING = { sans: -0.012 };
 /** And whose lines are a trifle higher; the others are as high as their letters ask. */
 const LINE_HEIGHT = { sans: 1.2 };
 
+const PIXEL = 15; // twips
+
 const pen = document.createElement("canvas").getContext("2d");
 
 function family(look) {
@@ -63,12 +65,16 @@ function fitted(text, look, box) {
   return layout;
 }
 
-/** Where the first line begins, from the top of the box. Only what has a ground or a border has its text in the middle. */
+/**
+ * Where the first line begins, from the top of the box. Only what has a ground or a border has its text in the middle; other
+ * letters stand on a whole pixel of the design. A letter that is higher than its box stays on the line of its neighbours.
+ */
 function topOf(layout, framed, box) {
   const { lines, height, ascent, size } = layout;
   if (lines.length > 1) return framed ? Math.max(0, (box.height - lines.length * height) / 2) : 0;
   const capital = pen.measureText("H").actualBoundingBoxAscent;
-  const top = framed ? (box.height + capital) / 2 - ascent : 0;
+  const top = framed ? (box.height + capital) / 2 - ascent : PIXEL * Math.ceil(ascent / PIXEL) - ascent;
+  if (lines[0].length === 1 && height > box.height) return top;
   if (height <= box.height) return Math.max(0, top);
   const ink = pen.measureText(lines[0]);
   const bottom = top + ascent + ink.actualBoundingBoxDescent;

@@ -3,12 +3,14 @@
 import { makeElement } from "./elements.js";
 import { MenuBar } from "./menus.js";
 import { isNarrow, narrowSize, narrowState } from "./narrow.js";
-import { fileOf, load, pictureNamed } from "./pictures.js";
+import { available, fileOf, pictureNamed } from "./pictures.js";
 import { twips } from "./text.js";
 
 const DESIGN_TWIP = 1 / 15; // pixels
 const DRAG_STEP = 5; // pixels
 const SPOKEN_LINES = 6;
+const READABLE = 9; // pixels, the size of letters
+const MUCH = 300; // characters
 
 function make(tag, className, parent) {
   const node = document.createElement(tag);
@@ -37,11 +39,12 @@ export class Window {
     this.spoken = make("div", "spoken", this.node);
     this.spoken.setAttribute("role", "status");
     this.#listen();
+    if (modal) this.node.showModal();
   }
 
-  /** Brings the window up, before all others. */
+  /** Lets the player into the window, all of which has been told. */
   open() {
-    if (this.modal) this.node.showModal();
+    this.resize();
     this.takeFocus();
   }
 
@@ -153,7 +156,15 @@ export class Window {
     if (this.isNarrow) return narrowSize(room.width, room.height);
     const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
     const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
-    return { twip: Math.min(fit, Math.max(common, DESIGN_TWIP)), width: form.width, height: form.height };
+    const twip = Math.max(Math.min(fit, Math.max(common, DESIGN_TWIP)), this.#readableTwip(fit));
+    return { twip, width: form.width, height: form.height };
+  }
+
+  /** What has much to read is made as large as reading takes, and scrolls; 0 where there is nothing of the kind. */
+  #readableTwip(fit) {
+    const small = this.elements.map(({ told }) => told).filter(({ kind, visible, size }) => kind === "Label" && visible && size * fit < READABLE);
+    const length = small.reduce((sum, { caption }) => sum + caption.length, 0);
+    return this.modal && length > MUCH ? READABLE / Math.min(...small.map(({ size }) => size)) : 0;
   }
 
   #place(element, state) {
@@ -166,8 +177,8 @@ export class Window {
   #showGround() {
     const picture = pictureNamed(this.#form.background);
     if (!picture) return;
-    const file = fileOf(picture, this.twip);
-    load(file).then(() => (this.client.style.backgroundImage = `url("${file}")`));
+    const show = (file) => (this.client.style.backgroundImage = `url("${file}")`);
+    available(picture, fileOf(picture, this.twip)).then(show);
   }
 
   #makeTitle() {
@@ -225,6 +236,7 @@ export class Window {
 
   /** A finger drawn across a window stands for the arrow keys. */
   #drag(event) {
+    if (this.node.scrollWidth > this.node.clientWidth) return;
     const [{ clientX }] = event.touches;
     if (event.type === "touchstart" || event.touches.length > 1) this.#finger = clientX;
     while (Math.abs(clientX - this.#finger) >= DRAG_STEP) {

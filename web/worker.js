@@ -8,10 +8,10 @@ self.addEventListener("install", (event) => {
 
 self.addEventListener("activate", (event) => {
   const old = caches.keys().then((names) => names.filter((name) => name.startsWith("zarpi-") && name !== CACHE));
-  event.waitUntil(old.then((names) => Promise.all(names.map((name) => caches.delete(name)))));
+  event.waitUntil(old.then((names) => Promise.all(names.map((name) => caches.delete(name)))).then(() => self.clients.claim()));
 });
 
-// What is kept answers at once; what is not (the music, until it has been heard) is fetched, and kept then.
+// What is kept answers at once; what is not (the music and the largest pictures, until they have been asked for) is fetched, and kept then.
 async function answer(request) {
   const cache = await caches.open(CACHE);
   const kept = await cache.match(request, { ignoreSearch: true });

@@ -1,7 +1,5 @@
 #include "words/Tablas.h"
 
-#include <array>
-#include <cstdint>
 #include <string_view>
 
 namespace juego {
@@ -10,24 +8,23 @@ namespace {
 
 #include "Tablas.inc"
 
-using Starts = std::array<std::uint16_t, NúmEntradas + 2>;
-
-platform::Text Entry(std::string_view bytes, const Starts& starts, int index) {
+/// Entry `index` of a table of lines.
+platform::Text Entry(std::string_view lines, int index) {
     if (index < 1 || index > NúmEntradas) return {};
-    const auto i = static_cast<std::size_t>(index);
-    return platform::FromWindows1252(bytes.substr(starts[i], starts[i + 1] - starts[i]));
+    for (; index > 1; --index) lines.remove_prefix(lines.find('\n') + 1);
+    return platform::FromWindows1252(lines.substr(0, lines.find('\n')));
 }
 
 }  // namespace
 
 platform::Text PalabraCastellana(int index) {
-    return Entry(kCastellano, kCastellanoStarts, index);
+    return Entry(kCastellano, index);
 }
 platform::Text PalabraInglesa(int index) {
-    return Entry(kIngles, kInglesStarts, index);
+    return Entry(kIngles, index);
 }
 platform::Text TraducciónDeInglesa(int index) {
-    return Entry(kTraducciones, kTraduccionesStarts, index);
+    return Entry(kTraducciones, index);
 }
 
 }  // namespace juego

@@ -16,17 +16,16 @@ const OPTIONS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-
 
 export const PHONE = { width: 390, height: 740, hasTouch: true, isMobile: true, deviceScaleFactor: 2 };
 
-export async function serve() {
-  const requests = [];
+/** Serves the page, and under `more` texts of other addresses. */
+export async function serve(more = {}) {
   const server = createServer(async (request, response) => {
     const path = decodeURIComponent(new URL(request.url, "http://site").pathname);
-    requests.push(path);
     const type = TYPES[extname(path)] ?? (path === "/" ? "text/html" : "application/octet-stream");
-    const body = await readFile(new URL(`.${path === "/" ? "/index.html" : path}`, site)).catch(() => null);
+    const body = more[path] ?? await readFile(new URL(`.${path === "/" ? "/index.html" : path}`, site)).catch(() => null);
     response.writeHead(body ? 200 : 404, { "content-type": type }).end(body);
   });
   await new Promise((done) => server.listen(0, "127.0.0.1", done));
-  return { address: `http://127.0.0.1:${server.address().port}/`, requests, close: () => server.close() };
+  return { address: `http://127.0.0.1:${server.address().port}/`, close: () => server.close() };
 }
 
 /** A browser that knows nothing yet; close() takes all of it away. */

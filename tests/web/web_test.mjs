@@ -279,7 +279,7 @@ test("the records leave the browser as the files of the desktop, and come into a
   const session = await player.page.createCDPSession();
   await session.send("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: folder });
   await player.page.click("#help");
-  await player.page.click(".files button");
+  await (await player.page.waitForSelector(".files button")).click();
   const archive = join(folder, "zarpi-partidas.zip");
   for (let i = 0; i < 50 && !(await readdir(folder)).includes("zarpi-partidas.zip"); ++i) await pause(100);
   const stored = await player.files();
@@ -293,7 +293,7 @@ test("the records leave the browser as the files of the desktop, and come into a
     const guest = await Player.enter(other.browser, server.address);
     await guest.press("Space");
     await guest.page.click("#help");
-    await (await guest.page.$(".files input")).uploadFile(join(folder, "otro.zip"));
+    await (await guest.page.waitForSelector(".files input")).uploadFile(join(folder, "otro.zip"));
     await guest.page.waitForFunction(() => document.querySelectorAll("dialog.message").length === 2);
     await Promise.all([guest.page.waitForNavigation(), guest.press("Enter")]);
     await guest.page.waitForSelector("#frmPresenta");

@@ -97,15 +97,10 @@ private:
     std::map<Text, int> lines_;
 };
 
-/// The entries back to back as Windows-1252 bytes, and where each begins. Entry 0 is empty.
+/// The entries as Windows-1252 bytes, each with a line feed behind it: less to send over a network than a table of
+/// where each begins, and found as fast as it needs to be.
 void Write(std::ostream& out, const char* name, const Column& column) {
-    out << "constexpr std::array<std::uint16_t, " << column.size() + 2 << "> k" << name << "Starts = {0,";
-    std::size_t start = 0;
-    for (const Text& entry : column) {
-        out << start << ',';
-        start += entry.size();
-    }
-    out << start << "};\nconstexpr std::string_view k" << name << " =\n";
+    out << "constexpr std::string_view k" << name << " =\n";
     for (const Text& entry : column) {
         out << '"';
         for (const char byte : platform::ToWindows1252(entry)) {
@@ -118,7 +113,7 @@ void Write(std::ostream& out, const char* name, const Column& column) {
                 out << octal.data();
             }
         }
-        out << "\"\n";
+        out << "\\n\"\n";
     }
     out << ";\n";
 }

@@ -1,0 +1,117 @@
+// How small and how fast the page is, beside a page with nothing in it.
+//
+//     node bench/page.mjs [RUNS]
+
+import { readdir, readFile } from "node:fs/promises";
+import { extname, join } from "node:path";
+import { fileURLToPath } from "node:url";
+import { gzipSync } from "node:zlib";
+import { fixed, launch, Player, serve, site } from "../tests/web/page.mjs";
+
+const RUNS = Number(process.argv[2] ?? 7);
+const PROGRAM = [".html", ".js", ".css", ".json", ".wasm", ".woff2"];
+const IDLE = 10000;
+
+const median = (numbers) => numbers.toSorted((a, b) => a - b)[Math.floor(numbers.length / 2)];
+const pause = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
+
+/** Bytes of the program, the page and its fonts, as a server sends them. */
+async function programSize() {
+  const folder = fileURLToPath(site);
+  const names = await readdir(folder, { recursive: true });
+  const sizes = names.filter((name) => PROGRAM.includes(extname(name))).map(async (name) => {
+    const bytes = await readFile(join(folder, name));
+    return Math.min(bytes.length, gzipSync(bytes, { level: 9 }).length);
+  });
+  return (await Promise.all(sizes)).reduce((sum, size) => sum + size, 0);
+}
+
+/** In the page: notes when the pictures of the first window have come to the screen. */
+const NOTE_FIRST_WINDOW = `{
+  const look = () => {
+    const window = document.getElementById("frmPresenta");
+    const images = [...(window?.querySelectorAll(".picture:not([hidden]) img") ?? [])];
+    const drawn = images.length > 0 && images.every((image) => image.complete && image.naturalWidth > 0);
+    const shown = drawn && window.querySelector(".client").style.backgroundImage !== "";
+    requestAnimationFrame(shown ? () => (globalThis.firstWindow = performance.now()) : look);
+  };
+  requestAnimationFrame(look);
+}`;
+
+/** Milliseconds from the address to the first paint of an empty page, and to the first window. A fresh browser. */
+async function starts(address) {
+  const { browser, close } = await launch();
+  try {
+    const empty = await browser.newPage();
+    await empty.goto(`${address}empty.html`);
+    await empty.waitForFunction(() => performance.getEntriesByName("first-paint").length > 0);
+    const paint = await empty.evaluate(() => performance.getEntriesByName("first-paint")[0].startTime);
+    await empty.close();
+    const page = await browser.newPage();
+    await page.setViewport({ width: 1280, height: 800 });
+    await page.evaluateOnNewDocument(NOTE_FIRST_WINDOW);
+    await page.goto(address);
+    await page.waitForFunction(() => globalThis.firstWindow);
+    const seen = await page.evaluate(() => ({
+      window: globalThis.firstWindow,
+      pictures: performance.getEntriesByType("resource")
+        .filter(({ name, responseEnd }) => /(webp|png)$/.test(name) && responseEnd < globalThis.firstWindow)
+        .reduce((sum, { encodedBodySize }) => sum + encodedBodySize, 0),
+    }));
+    return { paint, ...seen };
+  } finally {
+    await close();
+  }
+}
+
+/** Milliseconds from a key to the frame that shows what it changed: each of many letters of a game. */
+async function keys(player) {
+  await player.startGame("Ana");
+  await player.page.evaluate(() => {
+    globalThis.spans = [];
+    addEventListener("keydown", (event) => {
+      const before = performance.now();
+      requestAnimationFrame(() => {
+        const channel = new MessageChannel();
+        channel.port1.onmessage = () => globalThis.spans.push({ work: globalThis.after - before, frame: performance.now() - event.timeStamp });
+        channel.port2.postMessage(0);
+      });
+    }, { capture: true });
+    addEventListener("keydown", () => (globalThis.after = performance.now()));
+  });
+  for (const letter of "qwkjxzyqwert") {
+    await player.press(letter);
+    await pause(150);
+  }
+  return player.page.evaluate(() => globalThis.spans);
+}
+
+/** What the page does in a while in which nothing moves. */
+async function idle(player) {
+  const session = await player.page.createCDPSession();
+  await session.send("Performance.enable");
+  const read = async () => Object.fromEntries((await session.send("Performance.getMetrics")).metrics.map(({ name, value }) => [name, value]));
+  await pause(3000);
+  const before = await read();
+  await pause(IDLE);
+  const after = await read();
+  const names = ["TaskDuration", "ScriptDuration", "LayoutCount", "RecalcStyleCount"];
+  return names.map((name) => `${name} ${(after[name] - before[name]).toFixed(4)}`).join(", ");
+}
+
+const server = await serve({ "/empty.html": "<!doctype html><title>Empty</title><body style='background:#ddd'>" });
+console.log("program, page and fonts, compressed:", await programSize());
+const runs = [];
+for (let i = 0; i < RUNS; ++i) runs.push(await starts(server.address));
+const paint = median(runs.map((run) => run.paint));
+const shown = median(runs.map((run) => run.window));
+console.log(`pictures of the first window: ${runs[0].pictures}`);
+console.log(`empty page ${paint.toFixed(0)} ms, first window ${shown.toFixed(0)} ms, at most ${(2.5 * paint + 150).toFixed(0)} ms`);
+const { browser, close } = await launch();
+const player = await Player.enter(browser, server.address, { prepare: fixed(2) });
+console.log("idle at the presentation:", await idle(player));
+const spans = await keys(player);
+console.log("keys, milliseconds of work / to the frame:", spans.map(({ work, frame }) => `${work.toFixed(1)}/${frame.toFixed(1)}`).join(" "));
+console.log("idle in a word:", await idle(player));
+await close();
+server.close();
