@@ -20,15 +20,18 @@ cd "$HOME"
 "$1" 2>zarpi.log &
 program=$!
 
-press() { xdotool key --delay 60 "$@"; sleep 0.4; }
-window() { xdotool search --sync --onlyvisible --name "$1" >/dev/null; sleep 0.4; }
+press() { xdotool key --delay 60 "$@"; }
+# Waits for a window of this name to come, or to go; one that closes meanwhile is an error, which counts as one.
+seen() { xdotool search --onlyvisible --name "$1" 2>&1; }
+window() { until [[ $(seen "$1") =~ ^[0-9] ]]; do sleep 0.1; done; }
+closed() { while [ -n "$(seen "$1")" ]; do sleep 0.1; done; }
 fail() { echo "fallo: $1"; exit 1; }
 # Presses the button that has the focus, accepts the printer dialog, and looks for each text on the page of this name.
 print_page() {
     local page=$HOME/$1.pdf
     shift
     press space
-    sleep 1
+    window 'Print|Imprimir'
     press Return
     for text in "$@"; do
         found=
@@ -56,14 +59,13 @@ window 'Enhorabuena'
 press Return
 window 'PREMIO'
 for _ in $(seq 29); do xdotool key --delay 20 Left Left Left; done  # open: from here on the arrows move the ring
-sleep 0.5
 press Tab
 print_page PREMIO 'Begoña' 'Castellano' 'IMPRIMIR'
 press Escape
 window 'Cuadro de honor'
 press Tab
 print_page 'Cuadro de honor' 'CUADRO DE HONOR' 'Begoña' '205'
-sleep 0.5
+closed 'Cuadro de honor'
 press ctrl+u
 window 'ltimas partidas'
 press Tab

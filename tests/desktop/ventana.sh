@@ -15,11 +15,36 @@ export XDG_DATA_HOME=$folder SDL_AUDIODRIVER=dummy LC_ALL=C.UTF-8
 "$1" 2>"$folder/zarpi.log" &
 program=$!
 
-press() { xdotool key --delay 60 "$@"; sleep 0.3; }
-window() { xdotool search --sync --onlyvisible --name "$1" >/dev/null; sleep 0.3; }
-# The row of the miss boxes, as a number.
-misses() { import -window root -crop 560x42+230+325 rgb:- | cksum; }
 fail() { echo "fallo: $1"; exit 1; }
+# Waits for a command to succeed.
+await() {
+    for _ in $(seq 100); do
+        "$@" && return
+        sleep 0.1
+    done
+    fail "in vain: $*"
+}
+press() { xdotool key --delay 60 "$@"; }
+# What is seen by a property; a window that closes meanwhile is an error, which counts as one.
+seen() { xdotool search --onlyvisible "$@" 2>&1; }
+visible() { [[ $(seen "$@") =~ ^[0-9] ]]; }
+window() { await visible --name "$1"; }
+closed() { [ -z "$(seen --name "$1")" ]; }
+gone() { ! kill -0 "$1" 2>/dev/null; }
+# The row of the miss boxes, as a number: once every key has been answered, so that a window opens and closes behind them.
+misses() {
+    press ctrl+u
+    window 'ltimas partidas'
+    press Escape
+    await closed 'ltimas partidas'
+    local last=
+    local now=
+    until [ -n "$now" ] && [ "$now" = "$last" ]; do
+        last=$now
+        now=$(import -window root -crop 560x42+160+325 rgb:- | cksum)
+    done
+    echo "$now"
+}
 
 window 'pulsa una tecla'
 press a
@@ -29,6 +54,7 @@ window 'Nivel 1'
 press Return
 window 'Nombre del jugador'
 press Return
+await closed 'Nombre del jugador'
 before=$(misses)
 press dead_acute a
 press dead_diaeresis u
@@ -48,15 +74,10 @@ press dead_acute e
 # A second program in the same folder tells so and leaves when its notice is accepted.
 "$1" 2>/dev/null &
 second=$!
-sleep 1.5
-xdotool key Return
-for _ in 1 2 3 4 5 6 7 8 9 10; do
-    kill -0 $second 2>/dev/null || break
-    sleep 0.3
-done
-kill -0 $second 2>/dev/null && fail "a second program goes on"
-kill -0 $program || fail "the first program has gone"
+await visible --pid $second
+press Return
+await gone $second
+gone $program && fail "the first program has gone"
 press ctrl+s
-sleep 0.5
-kill -0 $program 2>/dev/null && fail "Salir does not end it"
+await gone $program
 echo "bien"

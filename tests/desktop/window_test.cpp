@@ -222,23 +222,6 @@ TEST_F(Window, ProposesTheShapeAndTheNameOfThePage) {
     EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
 }
 
-TEST_F(Window, PrintsTextsAsTexts) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("page.pdf");
-    {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(path);
-        PrintWidget(rig.Widget(form), printer);
-    }
-    QFile page(path);
-    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
-    const QByteArray content = page.readAll();
-    EXPECT_TRUE(content.startsWith("%PDF"));
-    EXPECT_TRUE(content.contains("/FontFile"));
-    EXPECT_LT(content.size(), 200'000);
-}
-
 TEST(Places, KeepTheWholeWindowOnTheScreen) {
     const Surroundings around{.desk = {1000, 0, 1366, 740}, .origin = QPoint(1700, 500), .frame = {1, 30, 1, 1}};
     struct Row {
