@@ -1,4 +1,4 @@
-// The page in Chromium: a server of its own, a fresh player, and what a player does and sees.
+// The page in a browser: a server of its own, a fresh player, and what a player does and sees.
 
 import { mkdtemp, readFile, rm } from "node:fs/promises";
 import { createServer } from "node:http";
@@ -28,12 +28,15 @@ export async function serve(more = {}) {
   return { address: `http://127.0.0.1:${server.address().port}/`, close: () => server.close() };
 }
 
+const BROWSERS = {
+  chrome: { executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: OPTIONS },
+  firefox: { executablePath: process.env.FIREFOX ?? "/usr/bin/firefox-esr" },
+};
+
 /** A browser that knows nothing yet; close() takes all of it away. */
-export async function launch() {
+export async function launch(name = "chrome") {
   const profile = await mkdtemp(join(tmpdir(), "zarpi-web-"));
-  const browser = await puppeteer.launch({
-    executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", headless: true, userDataDir: profile, args: OPTIONS,
-  });
+  const browser = await puppeteer.launch({ browser: name, headless: true, userDataDir: profile, ...BROWSERS[name] });
   const close = async () => {
     await browser.close();
     await rm(profile, { recursive: true, force: true });
@@ -72,7 +75,7 @@ export class Player {
   async shortcut(letter) {
     await this.page.keyboard.down("Shift");
     await this.page.keyboard.down("Alt");
-    await this.page.keyboard.press(`Key${letter}`);
+    await this.page.keyboard.press(letter);
     await this.page.keyboard.up("Alt");
     await this.page.keyboard.up("Shift");
   }
@@ -120,7 +123,7 @@ export class Player {
 
   /** From the presentation to the first word, for a player of this name. */
   async startGame(name) {
-    await this.press("Space");
+    await this.press(" ");
     await this.front("Zarpi");
     await this.shortcut("N");
     await this.front("frmNivel");

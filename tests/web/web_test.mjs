@@ -87,7 +87,7 @@ test("a whole game by keyboard, won: victory, diploma on paper, board, and the b
   await player.front("frmCuadro");
   await player.page.reload();
   await player.page.waitForSelector("#frmPresenta");
-  await player.press("Space");
+  await player.press(" ");
   await player.menu("mnuCuadros", "mnuCasteInglésHonor");
   await player.front("frmCuadro");
   assert.match(await player.page.$eval("#frmCuadro .client", (node) => node.innerText), /Ana y Íñigo/);
@@ -152,8 +152,7 @@ test("a game by touch on a phone held upright, to its end", async () => {
   await player.shows("Zarpi.Label5", /Fin de juego|acertada/);
 });
 
-test("a game is saved, the page closed, and taken up again with its password", async () => {
-  const player = await enter({ prepare: fixed(WINNING_SEED) });
+async function saveAndResume(player) {
   await playToWordThree(player);
   await player.shortcut("G");
   await player.front("frmGuardar");
@@ -170,7 +169,7 @@ test("a game is saved, the page closed, and taken up again with its password", a
   assert.match(files["Guardar.rnd"], /Pe\xf1a/);
   await player.page.reload();
   await player.page.waitForSelector("#frmPresenta");
-  await player.press("Space");
+  await player.press(" ");
   await player.shortcut("R");
   await player.front("frmReanudar");
   await player.page.click("#frmReanudar [role=option]");
@@ -181,6 +180,21 @@ test("a game is saved, the page closed, and taken up again with its password", a
   assert.equal(await player.see("Zarpi.lblPalabra"), "3");
   assert.equal(await player.see("Zarpi.lblNombre"), "Peña");
   assert.equal((await player.files())["Ultimo.dat"], " 0 \r\n");
+}
+
+test("a game is saved, the page closed, and taken up again with its password", async () => {
+  await saveAndResume(await enter({ prepare: fixed(WINNING_SEED) }));
+});
+
+test("and the same in Firefox", async () => {
+  const firefox = await launch("firefox");
+  try {
+    const player = await Player.enter(firefox.browser, server.address, { prepare: fixed(WINNING_SEED) });
+    players.push(player);
+    await saveAndResume(player);
+  } finally {
+    await firefox.close();
+  }
 });
 
 /** In the page: counts the storage operations from the first save on and stops everything at number `last`. */
@@ -221,7 +235,7 @@ test("a tab killed at any operation of the storage leaves the old state or the n
     assert.equal(journal, undefined);
     assert.equal(records.length, counter === " 1 \r\n" ? 65 : 0, `operation ${last}`);
     outcomes.add(counter);
-    await next.press("Space");
+    await next.press(" ");
     await next.front("Zarpi");
     assert.equal(await next.see("Zarpi.lblMensajeError"), null);
     await next.page.evaluate(async () => {
@@ -291,13 +305,13 @@ test("the records leave the browser as the files of the desktop, and come into a
   const other = await launch();
   try {
     const guest = await Player.enter(other.browser, server.address);
-    await guest.press("Space");
+    await guest.press(" ");
     await guest.page.click("#help");
     await (await guest.page.waitForSelector(".files input")).uploadFile(join(folder, "otro.zip"));
     await guest.page.waitForFunction(() => document.querySelectorAll("dialog.message").length === 2);
     await Promise.all([guest.page.waitForNavigation(), guest.press("Enter")]);
     await guest.page.waitForSelector("#frmPresenta");
-    await guest.press("Space");
+    await guest.press(" ");
     await guest.menu("mnuJuego", "mnuReanudar");
     await guest.front("frmReanudar");
     assert.match(await guest.see("frmReanudar.lstLista"), /Peña/);
