@@ -12,7 +12,7 @@ const RUNS = Number(process.argv[2] ?? 7);
 const PROGRAM = [".html", ".js", ".css", ".json", ".wasm", ".woff2"];
 const IDLE = 10000;
 
-const median = (numbers) => numbers.toSorted((a, b) => a - b)[Math.floor(numbers.length / 2)];
+const median = (numbers) => [...numbers].sort((a, b) => a - b)[Math.floor(numbers.length / 2)];
 const pause = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
 
 /** Bytes of the program, the page and its fonts, as a server sends them. */
