@@ -21,10 +21,9 @@ cd "$HOME"
 program=$!
 
 press() { xdotool key --delay 60 "$@"; }
-# Waits for a window of this name to come, or to go; one that closes meanwhile is an error, which counts as one.
-seen() { xdotool search --onlyvisible --name "$1" 2>&1; }
-window() { until [[ $(seen "$1") =~ ^[0-9] ]]; do sleep 0.1; done; }
-closed() { while [ -n "$(seen "$1")" ]; do sleep 0.1; done; }
+# Waits for a window of this name to get the keys, or to go; one that closes meanwhile is an error, which counts as one.
+window() { until [[ $(xdotool getwindowfocus getwindowname 2>&1) =~ $1 ]]; do sleep 0.1; done; }
+closed() { while [ -n "$(xdotool search --onlyvisible --name "$1" 2>&1)" ]; do sleep 0.1; done; }
 fail() { echo "fallo: $1"; exit 1; }
 # Presses the button that has the focus, accepts the printer dialog, and looks for each text on the page of this name.
 print_page() {
@@ -33,13 +32,10 @@ print_page() {
     press space
     window 'Print|Imprimir'
     press Return
+    # A page that is complete has its end; how long that takes is the machine's affair.
+    until tail -c 8 "$page" 2>/dev/null | grep -q '%%EOF'; do sleep 0.1; done
     for text in "$@"; do
-        found=
-        for _ in 1 2 3 4 5 6 7 8 9 10; do
-            pdftotext "$page" - 2>/dev/null | grep -q -- "$text" && found=yes && break
-            sleep 0.4
-        done
-        [ -n "$found" ] || fail "no page with $text"
+        pdftotext "$page" - | grep -q -- "$text" || fail "no page with $text"
     done
     [ "$(pdfinfo "$page" | awk '/^Pages/ {print $2}')" = 1 ] || fail "more than one page"
     pdftoppm -r 30 -png "$page" "$HOME/page"

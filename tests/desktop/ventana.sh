@@ -28,7 +28,9 @@ press() { xdotool key --delay 60 "$@"; }
 # What is seen by a property; a window that closes meanwhile is an error, which counts as one.
 seen() { xdotool search --onlyvisible "$@" 2>&1; }
 visible() { [[ $(seen "$@") =~ ^[0-9] ]]; }
-window() { await visible --name "$1"; }
+focused() { [[ $(xdotool getwindowfocus getwindowname 2>&1) =~ $1 ]]; }
+# A window that gets the keys.
+window() { await focused "$1"; }
 closed() { [ -z "$(seen --name "$1")" ]; }
 gone() { ! kill -0 "$1" 2>/dev/null; }
 # The row of the miss boxes, as a number: once every key has been answered, so that a window opens and closes behind them.
