@@ -30,7 +30,7 @@ View* Further(const std::vector<View*>& stops, const View* from, int by) {
 }  // namespace
 
 Cursor::Cursor(const Toolkit& toolkit, const Form& form, const Board& board, QWidget& client)
-    : form_(form), board_(board), client_(client), ring_(*new Ring(client, toolkit.Scale.LineWidth(kBand))) {}
+    : scale_(toolkit.Scale), form_(form), board_(board), client_(client), ring_(*new Ring(client)) {}
 
 const View* Cursor::Here() const {
     return here_ != nullptr && board_.IsStop(*here_) ? here_ : nullptr;
@@ -110,7 +110,7 @@ void Cursor::Refresh() {
     const View* shown = Here();
     const View* const focus = board_.Of(client_.window()->focusWidget());
     if (shown == nullptr && focus != nullptr && focus->Element().kind == Kind::CommandButton) shown = focus;
-    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget());
+    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget(), scale_.LineWidth(kBand));
 }
 
 }  // namespace platform::desktop

@@ -57,7 +57,6 @@ private:
     QApplication app_;
     QTranslator translator_;
     GameFolder folder_;
-    const Scale scale_;
     WindowDisplay display_;
     Heartbeat heartbeat_;
     Scheduler scheduler_;
@@ -76,13 +75,12 @@ private:
 
 Desktop::Parts::Parts(int& argc, char** argv)
     : app_(argc, argv),
-      scale_(Scale::For(QApplication::primaryScreen()->availableSize())),
-      display_(scale_),
+      display_(Scale::For(QApplication::primaryScreen()->availableSize())),
       scheduler_([this] { return heartbeat_.Now(); }),
       screen_(display_, scheduler_) {
-    SetLook(scale_);
-    InstallAccess();
     display_.Attach(screen_);
+    SetLook(display_.Kit().Scale);
+    InstallAccess();
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
     display_.OnEnd = [this] { folder_.Leave(); };
@@ -96,6 +94,8 @@ bool Desktop::Parts::EnterFolder(const GameFolder::Keeper& keeper) {
     QApplication::setApplicationName("zarpi");
     const bool free = folder_.Enter(GameFolder::SystemPlaces(), keeper);
     if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
+    display_.Kit().Sizing.Recall();
+    SetLetters(display_.Kit().Scale);
     return free;
 }
 

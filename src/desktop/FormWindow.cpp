@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QScreen>
 #include <algorithm>
 #include <utility>
@@ -17,10 +19,10 @@ namespace platform::desktop {
 namespace {
 
 Qt::WindowFlags FlagsOf(const Form& form, bool modal) {
-    const Qt::WindowFlags frame = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                                  Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+    const Qt::WindowFlags frame =
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     return frame | (modal ? Qt::Dialog : Qt::Window) |
-           (form.MinButton ? Qt::WindowMinimizeButtonHint : Qt::WindowFlags());
+           (form.MinButton ? Qt::WindowMinMaxButtonsHint : Qt::MSWindowsFixedSizeDialogHint);
 }
 
 std::vector<Control*> BackToFront(const Form& form) {
@@ -37,11 +39,12 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       client_(*new Client(this)),
       board_(toolkit.Screen),
       cursor_(toolkit_, form, board_, client_),
-      keys_(*new KeyFilter(toolkit.Screen, form, client_, cursor_)) {
+      keys_(*new KeyFilter(toolkit_, form, client_, cursor_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
     if (modal) setWindowModality(before.front == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
     TakeClicks();
     if (!form.Menus().empty()) menu_ = std::make_unique<MenuView>(toolkit.Screen, form, *this);
+    if (IsMain()) toolkit_.Sizing.Follow(*this, DesignSize());
     RefreshFrame();
     MakeViews();
     SetPlace(before.first);
@@ -90,7 +93,7 @@ void FormWindow::RefreshFrame() {
     const FormLook before = shown_.value_or(FormLook{});
     const bool resized = !shown_ || look.Width != before.Width || look.Height != before.Height;
     if (look.Caption != before.Caption) setWindowTitle(ToQt(look.Caption));
-    if (resized) SetSize();
+    if (resized) Arrange();
     if (resized || look.Background != before.Background || look.BackColor != before.BackColor) SetGround();
     if (look.Icon != before.Icon) {
         QIcon icon(toolkit_.Pictures.Stored(look.Icon, {32, 32}));
@@ -100,16 +103,38 @@ void FormWindow::RefreshFrame() {
     shown_ = look;
 }
 
-void FormWindow::SetSize() {
-    const QSize client(toolkit_.Scale.Pixels(form_.Width), toolkit_.Scale.Pixels(form_.Height));
-    int top = 0;
-    if (menu_) {
-        QMenuBar& bar = menu_->Bar();
-        top = bar.isNativeMenuBar() ? 0 : bar.heightForWidth(client.width());
-        bar.setGeometry(0, 0, client.width(), top);
-    }
-    client_.setGeometry(QRect(QPoint(0, top), client));
-    setFixedSize(client.width(), client.height() + top);
+/// In twips, with the menu bar.
+QSize FormWindow::DesignSize() const {
+    const bool hasBar = menu_ && !menu_->Bar().isNativeMenuBar();
+    return {form_.Width, form_.Height + (hasBar ? Scale::kMenuHeight : 0)};
+}
+
+void FormWindow::Arrange() {
+    const Scale& scale = toolkit_.Scale;
+    const QSize all = scale.Size(DesignSize());
+    const QSize content = scale.Size({form_.Width, form_.Height});
+    const int top = all.height() - content.height();
+    if (!IsMain()) setFixedSize(all);
+    if (menu_) menu_->Bar().setGeometry(0, 0, width(), top);
+    client_.setGeometry(
+        QRect(QPoint(qMax(0, width() - all.width()) / 2, top + qMax(0, height() - all.height()) / 2), content));
+}
+
+void FormWindow::Rescale(const FormWindow& first) {
+    for (const auto& [control, view] : views_) view->Forget();
+    shown_.reset();
+    if (this != &first) SetPlace(&first);
+    Refresh();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    Arrange();
+    QWidget::resizeEvent(event);
+}
+
+/// The surroundings of a content that cannot fill its window.
+void FormWindow::paintEvent(QPaintEvent* event) {
+    QPainter(this).fillRect(event->rect(), Qt::black);
 }
 
 void FormWindow::SetGround() {

@@ -17,7 +17,8 @@ namespace platform::desktop {
 
 class LabelView;
 
-/// The window of an open form: frame, menu bar, client area of a fixed size, a view for each element.
+/// The window of an open form: frame, menu bar, client area, a view for each element. Its size is fixed; that of the
+/// main window is the player's, and the client area stands in its middle.
 class FormWindow : public QWidget {
 public:
     /// The windows that were there before: the first one, by which the others find their place, and the one in front.
@@ -32,6 +33,8 @@ public:
 
     /// Shows what has changed in the form since the last time.
     void Refresh();
+    /// Shows everything at a changed factor. `first` is the main window, in whose place a dialog keeps its own.
+    void Rescale(const FormWindow& first);
 
     [[nodiscard]] Client& ClientArea() const { return client_; }
     [[nodiscard]] const Board& Elements() const { return board_; }
@@ -39,6 +42,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void MakeViews();
@@ -48,7 +53,9 @@ private:
     void RefreshLayers();
     void RefreshFocus();
     void LevelTexts();
-    void SetSize();
+    [[nodiscard]] bool IsMain() const { return form_.MinButton; }
+    [[nodiscard]] QSize DesignSize() const;
+    void Arrange();
     void SetGround();
     void SetPlace(const FormWindow* first);
 

@@ -25,8 +25,13 @@ bool IsArrow(const QKeyEvent& press) {
 
 }  // namespace
 
-KeyFilter::KeyFilter(Screen& screen, const Form& form, QWidget& client, Cursor& cursor)
-    : QObject(&client), screen_(screen), form_(form), client_(client), cursor_(cursor) {
+KeyFilter::KeyFilter(const Toolkit& toolkit, const Form& form, QWidget& client, Cursor& cursor)
+    : QObject(&client),
+      screen_(toolkit.Screen),
+      sizing_(toolkit.Sizing),
+      form_(form),
+      client_(client),
+      cursor_(cursor) {
     client.setAttribute(Qt::WA_InputMethodEnabled);
     client.installEventFilter(this);
     client.window()->installEventFilter(this);
@@ -42,6 +47,10 @@ bool KeyFilter::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
+    if (press.key() == Qt::Key_F11 && press.modifiers() == Qt::NoModifier) {
+        if (!press.isAutoRepeat()) sizing_.SwitchFullScreen();
+        return true;
+    }
     if (screen_.Front() == &form_ && cursor_.Take(press)) return true;
     if (press.isAutoRepeat()) return TakeRepeat(receiver, press);
     const std::optional<Key> key = reader_.Read(press);

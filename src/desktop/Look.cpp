@@ -8,12 +8,16 @@ namespace platform::desktop {
 
 void SetLook(const Scale& scale) {
     constexpr QRgb kGround = 0xEFEFEF;
-    constexpr double kTextSize = 9;    // points, of menus and messages
     constexpr int kCacheLimit = 4096;  // kilobytes
     QApplication::setPalette(QPalette(QColor(kGround)));
-    QApplication::setFont(scale.Font(FontName::MSSansSerif, kTextSize, false));
+    SetLetters(scale);
     QApplication::setQuitOnLastWindowClosed(false);
     QPixmapCache::setCacheLimit(kCacheLimit);
+}
+
+void SetLetters(const Scale& scale) {
+    constexpr double kTextSize = 9;  // points
+    QApplication::setFont(scale.Font(FontName::MSSansSerif, kTextSize, false));
 }
 
 }  // namespace platform::desktop

@@ -26,6 +26,11 @@ PictureBoxView::PictureBoxView(const Toolkit& toolkit, PictureBox& element, QWid
     TakeClicks();
 }
 
+void PictureBoxView::Forget() {
+    ElementView::Forget();
+    loaded_.reset();
+}
+
 QRect PictureBoxView::Geometry(const platform::Place& place) const {
     const Scale& scale = toolkit_.Scale;
     return {scale.Pixels(place.Left), scale.Pixels(place.Top), scale.Pixels(place.Width), scale.Pixels(place.Height)};

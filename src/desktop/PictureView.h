@@ -26,6 +26,8 @@ class PictureBoxView : public ElementView<PictureBox, PictureWidget> {
 public:
     PictureBoxView(const Toolkit& toolkit, PictureBox& element, QWidget& client);
 
+    void Forget() override;
+
 protected:
     void Apply(const PictureLook& look) override;
     /// Its size is rounded by itself, as that of its picture is, so that the picture fits to the pixel wherever it

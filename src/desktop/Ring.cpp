@@ -5,15 +5,16 @@
 
 namespace platform::desktop {
 
-Ring::Ring(QWidget& client, int band) : QWidget(&client), band_(band) {
+Ring::Ring(QWidget& client) : QWidget(&client) {
     setObjectName("ring");
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
 
-void Ring::Surround(const QWidget* widget) {
+void Ring::Surround(const QWidget* widget, int band) {
     setVisible(widget != nullptr);
     if (widget == nullptr) return;
+    band_ = band;
     const int margin = 2 * band_;
     const QRect box = widget->geometry().adjusted(-margin, -margin, margin, margin) & parentWidget()->rect();
     if (box != geometry()) setGeometry(box);

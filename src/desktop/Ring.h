@@ -8,17 +8,16 @@ namespace platform::desktop {
 /// out from every ground. It lies over the elements of the client area and lets the mouse through.
 class Ring : public QWidget {
 public:
-    /// `band` is the width of each band in pixels.
-    Ring(QWidget& client, int band);
+    explicit Ring(QWidget& client);
 
-    /// Shows the ring around a widget of the client area; null hides it.
-    void Surround(const QWidget* widget);
+    /// Shows the ring, two bands of `band` pixels, around a widget of the client area; null hides it.
+    void Surround(const QWidget* widget, int band);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const int band_;
+    int band_ = 1;
 };
 
 }  // namespace platform::desktop

@@ -8,12 +8,10 @@ namespace platform::desktop {
 
 namespace {
 
-/// What the largest window needs at factor 1: 11,910 by 8,520 twips and a menu bar.
-constexpr double kLargestWidth = 794;
-constexpr double kLargestHeight = 568 + 23;
+/// What the largest window needs, in twips.
+constexpr QSize kLargestWindow(11910, 8520 + Scale::kMenuHeight);
 /// Title bar and borders belong to the desktop and do not scale with the game.
-constexpr int kFrameWidth = 4;
-constexpr int kFrameHeight = 40;
+constexpr QSize kFrame(4, 40);
 constexpr double kSmallest = 0.25;
 constexpr double kTolerance = 0.001;
 
@@ -35,10 +33,18 @@ int StretchOf(FontName name) {
 }  // namespace
 
 Scale Scale::For(QSize available) {
+    return Filling(available - kFrame, kLargestWindow);
+}
+
+Scale Scale::Filling(QSize pixels, QSize design) {
     constexpr double kHundred = 100;
-    const double fits = std::min((available.width() - kFrameWidth) / kLargestWidth,
-                                 (available.height() - kFrameHeight) / kLargestHeight);
-    return Scale(std::max(std::floor(fits * kHundred) / kHundred, kSmallest));
+    const double fits = kTwipsPerPixel * std::min(static_cast<double>(pixels.width()) / design.width(),
+                                                  static_cast<double>(pixels.height()) / design.height());
+    // Sizes are rounded: the next hundredth may just fit.
+    const Scale next((std::floor(fits * kHundred) + 1) / kHundred);
+    const QSize size = next.Size(design);
+    const bool isNext = size.width() <= pixels.width() && size.height() <= pixels.height();
+    return Scale(std::clamp(isNext ? next.Factor() : std::floor(fits * kHundred) / kHundred, kSmallest, kLargest));
 }
 
 QRect Scale::Rect(const Place& place) const {

@@ -13,12 +13,19 @@ class Scale {
 public:
     explicit Scale(double factor) : factor_(factor) {}
 
+    static constexpr double kLeast = 0.6;    ///< at which texts can still be read
+    static constexpr double kLargest = 4;    ///< beyond which pictures would be soft
+    static constexpr int kMenuHeight = 345;  ///< of a menu bar, in twips
+
     /// The largest factor, in hundredths, at which the largest window of the program, its menu bar and its frame fit
     /// into `available`.
     static Scale For(QSize available);
+    /// The largest factor, in hundredths, at which `design`, in twips, fits into `pixels`.
+    static Scale Filling(QSize pixels, QSize design);
 
     [[nodiscard]] double Factor() const { return factor_; }
     [[nodiscard]] int Pixels(int twips) const { return qRound(twips * factor_ / kTwipsPerPixel); }
+    [[nodiscard]] QSize Size(QSize twips) const { return {Pixels(twips.width()), Pixels(twips.height())}; }
     /// Edges are rounded, not sizes: elements that touch in the design touch on the screen.
     [[nodiscard]] QRect Rect(const Place& place) const;
     /// The width of a line of `width` pixels at factor 1; never thinner than a pixel.

@@ -9,6 +9,7 @@
 #include "desktop/Clicks.h"
 #include "desktop/Pictures.h"
 #include "desktop/Scale.h"
+#include "desktop/Sizing.h"
 #include "platform/Screen.h"
 
 namespace platform::desktop {
@@ -20,6 +21,7 @@ struct Toolkit {
     const desktop::Scale& Scale;
     const desktop::Pictures& Pictures;
     desktop::DoubleClicks& DoubleClicks;
+    desktop::Sizing& Sizing;
 };
 
 /// Brings the state of one element before the player's eyes, in one widget named like the element.
@@ -32,6 +34,8 @@ public:
 
     /// Shows what has changed since the last time, and touches nothing else. Whether anything had changed.
     virtual bool Refresh() = 0;
+    /// The factor has changed: the next refresh shows everything anew.
+    virtual void Forget() = 0;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
     [[nodiscard]] const Control& Element() const { return element_; }
@@ -68,6 +72,11 @@ public:
         }
         widget_.setVisible(place.Visible);
         return changed;
+    }
+
+    void Forget() override {
+        place_.reset();
+        look_.reset();
     }
 
 protected:

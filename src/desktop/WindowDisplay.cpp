@@ -4,7 +4,13 @@
 #include <QEventLoop>
 #include <cstdlib>
 
+#include "desktop/Look.h"
+
 namespace platform::desktop {
+
+WindowDisplay::WindowDisplay(const Scale& scale) : scale_(scale) {
+    sizing_.OnFactor = [this] { Rescale(); };
+}
 
 WindowDisplay::~WindowDisplay() {
     for (const auto& [form, window] : windows_) delete window;
@@ -37,7 +43,11 @@ void WindowDisplay::Opened(Form& form, bool modal) {
         };
     }
     hadWindow_ = true;
-    window->show();
+    if (form.MinButton) {
+        sizing_.Show();
+    } else {
+        window->show();
+    }
     window->activateWindow();
 }
 
@@ -56,6 +66,14 @@ void WindowDisplay::Refresh() {
         if (window != nullptr) window->Refresh();
     }
     if (OnRefresh) OnRefresh();
+}
+
+void WindowDisplay::Rescale() {
+    SetLetters(scale_);
+    const FormWindow* const first = WindowOf(*screen_->Shown().front());
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr && first != nullptr) window->Rescale(*first);
+    }
 }
 
 void WindowDisplay::WaitUntil(const std::function<bool()>& done) {

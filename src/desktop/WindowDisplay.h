@@ -12,7 +12,7 @@ namespace platform::desktop {
 /// The windows on the player's screen.
 class WindowDisplay : public Display {
 public:
-    explicit WindowDisplay(const Scale& scale) : scale_(scale) {}
+    explicit WindowDisplay(const Scale& scale);
     ~WindowDisplay() override;
 
     /// Where the player's input goes; to be told before the first form is shown.
@@ -28,7 +28,7 @@ public:
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// What its windows are made with.
-    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_}; }
+    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_, sizing_}; }
     /// The window in front; null if there is none.
     [[nodiscard]] FormWindow* FrontWindow() const;
 
@@ -37,7 +37,10 @@ public:
     std::function<void()> OnEnd;          ///< what must be done before the process ends
 
 private:
-    const Scale scale_;
+    void Rescale();
+
+    Scale scale_;
+    Sizing sizing_{scale_};
     const Pictures pictures_{scale_};
     DoubleClicks doubleClicks_;
     Screen* screen_ = nullptr;

@@ -193,7 +193,7 @@ struct VentanaZarpi : Form {
     Timer EnfadoZarpi3{*this, "EnfadoZarpi3", 2500};
     Timer EnfadoZarpi4{*this, "EnfadoZarpi4", 300};
     Timer EnfadoZarpi5{*this, "EnfadoZarpi5", 300};
-    Timer tmrComodín1{*this, "tmrComodín1", 300};
+    Timer tmrComodín1{*this, "tmrComodín1", 300, false, &tmrComodín2};
     Timer tmrComodín2{*this, "tmrComodín2", 300};
     Timer tmrTiempo{*this, "tmrTiempo", 100};
 

@@ -238,7 +238,7 @@ public:
 /// Calls its Click every Interval milliseconds while it is enabled. Starting a running timer changes nothing.
 class Timer : public Control {
 public:
-    Timer(Form& form, std::string_view name, int interval, bool enabled = false);
+    Timer(Form& form, std::string_view name, int interval, bool enabled = false, const Timer* shownBy = nullptr);
 
     void Start();
     void Stop();
@@ -249,6 +249,8 @@ public:
     void Attach(Scheduler& scheduler) { scheduler_ = &scheduler; }
 
     const int Interval;
+    /// The timer that brings back what this one hides: the two blink. Null for a timer of any other kind.
+    const Timer* const ShownBy;
 
 private:
     const bool designEnabled_;

@@ -39,8 +39,8 @@ Menu::Menu(Menu& parent, std::string_view name, MenuLook look)
     parent.Owner.Add(*this);
 }
 
-Timer::Timer(Form& form, std::string_view name, int interval, bool enabled)
-    : Control(form, Kind::Timer, name, -1, {}), Interval(interval), designEnabled_(enabled) {
+Timer::Timer(Form& form, std::string_view name, int interval, bool enabled, const Timer* shownBy)
+    : Control(form, Kind::Timer, name, -1, {}), Interval(interval), ShownBy(shownBy), designEnabled_(enabled) {
     form.Add(*this);
 }
 

@@ -205,10 +205,35 @@ void Screen::TypeKey(const Key& key) {
     }
 }
 
+/// What blinks is back before anybody has seen it gone.
+void Screen::TickStill(const Timer& timer) {
+    std::vector<const Control*> hidden;
+    std::ranges::copy_if(timer.Owner.Controls(), std::back_inserter(hidden),
+                         [](const Control* control) { return control->Visible && control->Click; });
+    timer.Click();
+    std::erase_if(hidden, [](const Control* control) { return control->Visible; });
+    timer.ShownBy->Click();
+    for (const Control* control : hidden) {
+        if (!IsMarked(*control)) marked_.push_back({control, &timer});
+    }
+}
+
+bool Screen::IsMarked(const Control& control) const {
+    return std::ranges::any_of(marked_, [this, &control](const Marked& marked) {
+        const Timer& timer = *marked.hiddenBy;
+        return still_ && marked.control == &control && (timer.IsEnabled() || timer.ShownBy->IsEnabled());
+    });
+}
+
 bool Screen::Tick(Moment now) {
     Timer* const timer = scheduler_.TakeDue(now);
-    if (timer != nullptr) Run(timer->Click);
-    return timer != nullptr;
+    if (timer == nullptr) return false;
+    if (still_ && timer->ShownBy != nullptr) {
+        Run([this, timer] { TickStill(*timer); });
+    } else {
+        Run(timer->Click);
+    }
+    return true;
 }
 
 }  // namespace platform

@@ -71,6 +71,8 @@ public:
     void Focus(Control& control) const;
     /// Runs the first timer that is due; false when none is.
     bool Tick(Moment now);
+    /// For players whom blinking disturbs: as long as it is asked for, what blinks stays in sight.
+    void KeepStill(bool still) { still_ = still; }
 
     /// The forms on the screen, back to front.
     [[nodiscard]] const std::vector<Form*>& Shown() const { return shown_; }
@@ -78,6 +80,8 @@ public:
     /// Whether the player can reach a form, and an element of it.
     [[nodiscard]] Refusal Reach(const Form& form) const;
     [[nodiscard]] Refusal Reach(const Control& control) const;
+    /// Whether a mark must tell of an element that answers a click what its blinking would have told.
+    [[nodiscard]] bool IsMarked(const Control& control) const;
 
     /// The part of a text that a text box takes.
     static Text Acceptable(const TextBox& box, TextView text);
@@ -89,6 +93,11 @@ private:
         PictureBox* box;
         Text fitted;
     };
+    /// An element that would blink, and the first timer of the two that would have it blink.
+    struct Marked {
+        const Control* control;
+        const Timer* hiddenBy;
+    };
     bool Contains(const std::vector<Form*>& forms, const Form& form) const;
     void Open(Form& form, bool modal);
     void FitPictures();
@@ -99,6 +108,7 @@ private:
     bool PressShortcut(Form& form, const Key& key);
     bool PressButton(Form& form, const Key& key);
     void PressPreview(Form& form, const Key& key);
+    void TickStill(const Timer& timer);
 
     Display& display_;
     Scheduler& scheduler_;
@@ -107,6 +117,8 @@ private:
     std::vector<Form*> modal_;
     std::vector<Form*> closing_;
     std::vector<FittedBox> fitted_;  // of the loaded forms
+    bool still_ = false;
+    std::vector<Marked> marked_;
 };
 
 }  // namespace platform

@@ -35,7 +35,7 @@ public:
         *this, "Shape1", {1350, 1050, 5895, 2355}, {.FillColor = Cream, .BorderColor = Olive, .BorderWidth = 3}};
     Label Label4{*this, "Label4", {3450, 4770, 1725, 285}, Heading(u"FECHA", 9.75)};
     Shape shpAceptar{*this, "shpAceptar", {3510, 5790, 1605, 525}, ButtonPlate()};
-    Timer tmrTimer1{*this, "tmrTimer1", 300, true};
+    Timer tmrTimer1{*this, "tmrTimer1", 300, true, &tmrTimer2};
     Timer tmrTimer2{*this, "tmrTimer2", 300, true};
     MediaChannel sonConseguido{.Name = "sonConseguido", .FileName = {}, .OverMusic = true};
 

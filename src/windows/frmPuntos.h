@@ -25,7 +25,7 @@ public:
                  {4380, 90, 2475, 615, Hidden},
                  ValueBox(u"¡PLENO!", FontName::Arial, 21.75, true, Yellow, Red)};
     Shape shpAceptar{*this, "shpAceptar", {2760, 3840, 1605, 525}, ButtonPlate()};
-    Timer Timer1{*this, "Timer1", 300};
+    Timer Timer1{*this, "Timer1", 300, false, &Timer2};
     Timer Timer2{*this, "Timer2", 300};
     MediaChannel sonPleno{.Name = "sonPleno", .FileName = {}, .OverMusic = true};
     MediaChannel sonExtra{.Name = "sonExtra", .FileName = {}, .OverMusic = true};

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPrinter>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -249,6 +250,96 @@ TEST(Factor, IsTheLargestAtWhichTheLargestWindowFits) {
              {800, 480, 0.74}, {1024, 768, 1.23}, {1366, 768, 1.23}, {1280, 1280, 1.6}, {3840, 2160, 3.58}}) {
         EXPECT_EQ(Scale::For({row.width, row.height}).Factor(), row.factor) << row.width;
     }
+}
+
+/// A main window, 6000 by 4500 twips and a menu bar, and a folder for what is remembered.
+struct Sizes : testing::Test {
+    Sizes() {
+        QDir::setCurrent(folder.path());
+        main.OnLoad = [this] { main.MinButton = true; };
+    }
+    ~Sizes() override { QDir::setCurrent(before); }
+
+    static constexpr QSize kContent{6000, 4500};
+    static constexpr QSize kDesign{6000, 4500 + Scale::kMenuHeight};
+    const QString before = QDir::currentPath();
+    const QTemporaryDir folder;
+    Sample main{"Main", 0x00FF00};
+};
+
+/// The desktop with the main window open, from what is remembered.
+struct Opened : Rig {
+    explicit Opened(Form& main) {
+        display.Kit().Sizing.Recall();
+        screen.Show(main);
+        window = display.WindowOf(main);
+    }
+    void Resize(QSize size) const {
+        window->resize(size);
+        QCoreApplication::processEvents();
+    }
+    static void LetGo() { QTest::qWait(350); }
+    [[nodiscard]] double Factor() { return display.Kit().Scale.Factor(); }
+
+    FormWindow* window;
+};
+
+TEST_F(Sizes, AllWindowsFollowTheMainOne) {
+    Sample dialog("Dialog");
+    Opened game(main);
+    game.screen.Show(dialog);
+    for (const double factor : {0.6, 0.75, 1.0, 1.33, 1.5, 2.0, 2.37, 3.5}) {
+        const Scale scale(factor);
+        game.Resize(scale.Size(kDesign));
+        EXPECT_EQ(game.Factor(), factor);
+        for (const Sample* form : {&main, &dialog}) {
+            EXPECT_EQ(game.Widget(*form).size(), scale.Size(kContent)) << factor;
+            EXPECT_EQ(game.Widget(*form, "lblBack").geometry(), scale.Rect(form->lblBack)) << factor;
+            EXPECT_EQ(game.Widget(*form, "txtName").font(), scale.Font(FontName::MSSansSerif, 12, false)) << factor;
+        }
+        const auto& bar = game.Widget<QMenuBar>(main, "menu");
+        EXPECT_LE(bar.heightForWidth(bar.width()), bar.height()) << factor;
+        EXPECT_EQ(game.display.WindowOf(dialog)->maximumSize(), scale.Size(kDesign)) << factor;
+    }
+    game.Resize({100, 100});
+    EXPECT_EQ(game.window->size(), Scale(Scale::kLeast).Size(kDesign));
+}
+
+TEST_F(Sizes, WhatTheContentCannotFillIsBlack) {
+    Opened game(main);
+    game.Resize(Scale(1.5).Size(kDesign) + QSize(200, 0));
+    const QRect client = game.Widget(main).geometry();
+    EXPECT_EQ(client.left(), 100);
+    EXPECT_EQ(client.size(), Scale(1.5).Size(kContent));
+    const QImage seen = game.window->grab().toImage();
+    EXPECT_EQ(seen.pixel(99, 300) & 0xFFFFFFU, 0U);
+    EXPECT_EQ(seen.pixel(100, 300) & 0xFFFFFFU, 0x00FF00U);
+    Opened::LetGo();
+    EXPECT_EQ(game.window->size(), Scale(1.5).Size(kDesign));
+}
+
+TEST_F(Sizes, WhatThePlayerChoseIsThereAgain) {
+    {
+        Opened game(main);
+        game.Resize(Scale(0.8).Size(kDesign));
+        Opened::LetGo();
+    }
+    {
+        Opened game(main);
+        EXPECT_EQ(game.window->size(), Scale(0.8).Size(kDesign));
+        QTest::keyClick(game.window->windowHandle(), Qt::Key_F11);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(game.window->size(), game.window->screen()->size());
+        EXPECT_GT(game.Factor(), 3);
+        Opened::LetGo();
+    }
+    Opened game(main);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(game.window->isFullScreen());
+    QTest::keyClick(game.window->windowHandle(), Qt::Key_F11);
+    Opened::LetGo();
+    EXPECT_EQ(game.window->size(), Scale(0.8).Size(kDesign));
+    EXPECT_TRUE(main.Typed.empty());
 }
 
 }  // namespace

@@ -19,6 +19,8 @@ struct Main : Form {
     Shape shape{*this, "shape", {150, 150, 1500, 450}, {}};
     Timer fast{*this, "fast", 100};
     Timer slow{*this, "slow", 150};
+    Timer off{*this, "off", 100, false, &on};
+    Timer on{*this, "on", 100};
 };
 
 struct Dialog : Form {
@@ -121,6 +123,34 @@ TEST(Timers, DoNotMakeUpForMissedTicks) {
     now = Moment(1120);
     EXPECT_EQ(scheduler.TakeDue(now), &form.fast);
     EXPECT_EQ(scheduler.NextDue(), Moment(1150)) << "a tick that is late does not put off the others";
+}
+
+TEST_F(Windows, WhatBlinksStaysInSightWithAMarkWhereThatIsAskedFor) {
+    const auto swap = [this](bool shown, Timer& from, Timer& to) {
+        main.label.Visible = main.shape.Visible = shown;
+        from.Stop();
+        to.Start();
+    };
+    main.off.Click = [this, swap] { swap(false, main.off, main.on); };
+    main.on.Click = [this, swap] { swap(true, main.on, main.off); };
+    main.off.Start();
+    headless.Wait(Moment(100));
+    EXPECT_FALSE(main.label.Visible);
+    screen.KeepStill(true);
+    for (int i = 0; i < 5; ++i) {
+        headless.Wait(Moment(100));
+        EXPECT_TRUE(main.label.Visible && main.shape.Visible) << i;
+    }
+    EXPECT_TRUE(screen.IsMarked(main.label));
+    EXPECT_FALSE(screen.IsMarked(main.shape)) << "nobody clicks it";
+    main.off.Stop();
+    main.on.Stop();
+    EXPECT_FALSE(screen.IsMarked(main.label));
+    screen.KeepStill(false);
+    main.off.Start();
+    EXPECT_FALSE(screen.IsMarked(main.label));
+    headless.Wait(Moment(100));
+    EXPECT_FALSE(main.label.Visible);
 }
 
 TEST_F(Windows, AModalFormBlocksInputAndLetsTimersGoOn) {
