@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/Colors.h"
+#include "desktop/Contrast.h"
 #include "desktop/Strings.h"
 #include "desktop/TextLines.h"
 
@@ -57,7 +58,15 @@ ButtonView::ButtonView(const Toolkit& toolkit, CommandButton& element, QWidget& 
 }
 
 void ButtonView::Apply(const ButtonLook& look) {
-    if (!look.BackColor.IsNone()) widget_.setPalette(QPalette(ToQt(look.BackColor)));
+    if (!look.BackColor.IsNone()) {
+        QPalette palette(ToQt(look.BackColor));
+        if (toolkit_.Wishes.HighContrast) {
+            const Ink ink = Readable({ToQt(look.BackColor), palette.color(QPalette::ButtonText)});
+            palette = QPalette(ink.Ground);
+            palette.setColor(QPalette::ButtonText, ink.Letters);
+        }
+        widget_.setPalette(palette);
+    }
     const QString caption = ToQt(look.Caption);
     const QFont font = toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold);
     widget_.SetEdge(toolkit_.Scale.LineWidth(1));

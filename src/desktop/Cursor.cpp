@@ -10,8 +10,6 @@ namespace platform::desktop {
 
 namespace {
 
-constexpr int kBand = 3;  ///< pixels at factor 1
-
 int Middle(const View& view) {
     return view.Element().Left + view.Element().Width / 2;
 }
@@ -30,7 +28,7 @@ View* Further(const std::vector<View*>& stops, const View* from, int by) {
 }  // namespace
 
 Cursor::Cursor(const Toolkit& toolkit, const Form& form, const Board& board, QWidget& client)
-    : scale_(toolkit.Scale), form_(form), board_(board), client_(client), ring_(*new Ring(client)) {}
+    : scale_(toolkit.Scale), form_(form), board_(board), client_(client), ring_(*new Ring(client, Qt::white)) {}
 
 const View* Cursor::Here() const {
     return here_ != nullptr && board_.IsStop(*here_) ? here_ : nullptr;
@@ -110,7 +108,7 @@ void Cursor::Refresh() {
     const View* shown = Here();
     const View* const focus = board_.Of(client_.window()->focusWidget());
     if (shown == nullptr && focus != nullptr && focus->Element().kind == Kind::CommandButton) shown = focus;
-    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget(), scale_.LineWidth(kBand));
+    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget(), scale_.LineWidth(kRingBand));
 }
 
 }  // namespace platform::desktop

@@ -69,6 +69,7 @@ private:
     SystemBrowser browser_;
     Generator random_{Seed()};
     DurableFiles files_;
+    SystemWishes wishes_;
     Announcer speech_{[this] { return display_.FrontWindow(); }};
     platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_, speech_};
 };
@@ -87,6 +88,7 @@ Desktop::Parts::Parts(int& argc, char** argv)
     display_.OnFirstWindow = [this] {
         media_.Start();
         LoadTranslation();
+        wishes_.Watch([this](const Wishes& wishes) { display_.Heed(wishes); });
     };
 }
 

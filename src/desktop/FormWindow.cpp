@@ -39,8 +39,10 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       client_(*new Client(this)),
       board_(toolkit.Screen),
       cursor_(toolkit_, form, board_, client_),
+      mark_(*new Ring(client_, Qt::yellow)),
       keys_(*new KeyFilter(toolkit_, form, client_, cursor_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
+    mark_.setObjectName("mark");
     if (modal) setWindowModality(before.front == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
     TakeClicks();
     if (!form.Menus().empty()) menu_ = std::make_unique<MenuView>(toolkit.Screen, form, *this);
@@ -84,8 +86,10 @@ void FormWindow::Refresh() {
     bool changed = false;
     for (const auto& [control, view] : views_) changed = view->Refresh() || changed;
     if (changed) LevelTexts();
+    if (changed && toolkit_.Wishes.HighContrast) RaiseContrast();
     RefreshFocus();
     cursor_.Refresh();
+    RefreshMark();
 }
 
 void FormWindow::RefreshFrame() {
@@ -120,7 +124,7 @@ void FormWindow::Arrange() {
         QRect(QPoint(qMax(0, width() - all.width()) / 2, top + qMax(0, height() - all.height()) / 2), content));
 }
 
-void FormWindow::Rescale(const FormWindow& first) {
+void FormWindow::ShowAnew(const FormWindow& first) {
     for (const auto& [control, view] : views_) view->Forget();
     shown_.reset();
     if (this != &first) SetPlace(&first);
@@ -170,6 +174,18 @@ void FormWindow::LevelTexts() {
     for (LabelView* label : labels_) {
         if (label->Element().Visible) label->SetFontSize(smallest.at(label->Family()));
     }
+}
+
+void FormWindow::RaiseContrast() {
+    for (LabelView* label : labels_) {
+        if (label->Element().Visible) label->RaiseContrast();
+    }
+}
+
+void FormWindow::RefreshMark() {
+    const auto marked =
+        std::ranges::find_if(views_, [this](const auto& view) { return toolkit_.Screen.IsMarked(*view.first); });
+    mark_.Surround(marked == views_.end() ? nullptr : &marked->second->Widget(), toolkit_.Scale.LineWidth(kRingBand));
 }
 
 /// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old

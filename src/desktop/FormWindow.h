@@ -33,8 +33,9 @@ public:
 
     /// Shows what has changed in the form since the last time.
     void Refresh();
-    /// Shows everything at a changed factor. `first` is the main window, in whose place a dialog keeps its own.
-    void Rescale(const FormWindow& first);
+    /// Shows everything as the factor and the player's wishes have it now. A dialog keeps its place before the main
+    /// window, `first`.
+    void ShowAnew(const FormWindow& first);
 
     [[nodiscard]] Client& ClientArea() const { return client_; }
     [[nodiscard]] const Board& Elements() const { return board_; }
@@ -53,6 +54,8 @@ private:
     void RefreshLayers();
     void RefreshFocus();
     void LevelTexts();
+    void RaiseContrast();
+    void RefreshMark();
     [[nodiscard]] bool IsMain() const { return form_.MinButton; }
     [[nodiscard]] QSize DesignSize() const;
     void Arrange();
@@ -64,6 +67,7 @@ private:
     Client& client_;
     Board board_;
     Cursor cursor_;
+    Ring& mark_;
     KeyFilter& keys_;
     std::unique_ptr<MenuView> menu_;
     std::map<const Control*, std::unique_ptr<View>> views_;

@@ -8,13 +8,20 @@
 namespace platform::desktop {
 
 void LabelWidget::SetLook(const LabelLook& look, int lineWidth) {
-    ground_ = ToQt(look.BackColor);
-    ink_ = ToQt(look.ForeColor);
+    ink_ = {ToQt(look.BackColor), ToQt(look.ForeColor)};
     centred_ = look.Align == Alignment::Centre;
     snug_ = look.Snug;
     border_ = look.BorderStyle == 0 ? 0 : lineWidth;
+    framed_ = centred_ && (ink_.Ground.isValid() || border_ > 0);
     setTextFormat(Qt::PlainText);
     setText(ToQt(look.Caption));
+    update();
+}
+
+void LabelWidget::SetInk(const Ink& ink, bool isPlate) {
+    if (ink == ink_ && isPlate == snug_) return;
+    ink_ = ink;
+    snug_ = isPlate;
     update();
 }
 
@@ -31,13 +38,12 @@ bool LabelWidget::IsHighLetter() const {
 /// letter stays on the line of its neighbours.
 int LabelWidget::TextTop(const TextLines& lines) const {
     const QRect box = TextBox();
-    const bool framed = centred_ && (ground_.isValid() || border_ > 0);
     if (lines.Count() > 1) {
-        return framed ? box.top() + qMax(0, (box.height() - qRound(lines.Size().height())) / 2) : box.top();
+        return framed_ ? box.top() + qMax(0, (box.height() - qRound(lines.Size().height())) / 2) : box.top();
     }
     const QFontMetrics metrics = fontMetrics();
     int top = box.top();
-    if (framed) top += (box.height() + metrics.capHeight()) / 2 - metrics.ascent();
+    if (framed_) top += (box.height() + metrics.capHeight()) / 2 - metrics.ascent();
     if (IsHighLetter()) return top;
     if (metrics.height() <= box.height()) return qMax(top, box.top());
     const QRect ink = metrics.tightBoundingRect(text()).translated(0, top + metrics.ascent());
@@ -55,8 +61,8 @@ QMargins LabelWidget::Overhang() const {
 
 void LabelWidget::PaintBorder(QPainter& painter) const {
     // Sunken into its own ground; a frame around something else is plain.
-    const QColor dark = ground_.isValid() ? ground_.darker(250) : QColor(Qt::black);
-    const QColor bright = ground_.isValid() ? ground_.lighter(160) : dark;
+    const QColor dark = ink_.Ground.isValid() ? ink_.Ground.darker(250) : QColor(Qt::black);
+    const QColor bright = ink_.Ground.isValid() ? ink_.Ground.lighter(160) : dark;
     const QRect box = contentsRect();
     const int line = border_;
     painter.fillRect(box.left(), box.bottom() + 1 - line, box.width(), line, bright);
@@ -65,14 +71,20 @@ void LabelWidget::PaintBorder(QPainter& painter) const {
     painter.fillRect(box.left(), box.top(), line, box.height(), dark);
 }
 
+/// What lies behind the text alone; nothing behind none.
+QRectF LabelWidget::PlateOf(const TextLines& lines, QPointF corner) const {
+    if (text().isEmpty()) return {};
+    const double left = centred_ ? (TextBox().width() - lines.Size().width()) / 2 : 0;
+    return {corner + QPointF(left, 0), lines.Size()};
+}
+
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const TextLines lines = Lines();
     const QPoint corner(TextBox().left(), TextTop(lines));
-    const bool isSnug = snug_ && !text().isEmpty();
-    if (ground_.isValid()) painter.fillRect(isSnug ? QRectF(corner, lines.Size()) : QRectF(contentsRect()), ground_);
+    if (ink_.Ground.isValid()) painter.fillRect(snug_ ? PlateOf(lines, corner) : QRectF(contentsRect()), ink_.Ground);
     if (border_ > 0) PaintBorder(painter);
-    painter.setPen(ink_);
+    painter.setPen(ink_.Letters);
     lines.Draw(painter, corner, centred_);
 }
 
@@ -109,6 +121,16 @@ void LabelView::SetFontSize(int pixels) {
     font.setPixelSize(pixels);
     widget_.setFont(font);
     SetOverhang();
+}
+
+void LabelView::RaiseContrast() {
+    const Ink design{ToQt(element_.BackColor), ToQt(element_.ForeColor)};
+    const QColor behind = design.Ground.isValid() ? design.Ground : GroundBehind(element_);
+    const Ink seen = Readable({behind, design.Letters});
+    // What stands well on the ground behind it needs none of its own.
+    const bool isClear = !design.Ground.isValid() && seen.Ground == behind;
+    const bool isPlate = element_.Snug || !design.Ground.isValid();
+    widget_.SetInk({isClear ? QColor() : seen.Ground, seen.Letters}, isPlate);
 }
 
 void LabelView::SetOverhang() {

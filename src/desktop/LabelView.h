@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "desktop/Contrast.h"
 #include "desktop/TextLines.h"
 #include "desktop/View.h"
 
@@ -15,6 +16,8 @@ public:
 
     /// `lineWidth` is that of the border in pixels.
     void SetLook(const LabelLook& look, int lineWidth);
+    /// Other colours than those of the look. `isPlate`: the ground lies behind the text alone.
+    void SetInk(const Ink& ink, bool isPlate);
     /// The part of the box that is the text's, and the text in it.
     [[nodiscard]] QRect TextBox() const;
     [[nodiscard]] TextLines Lines() const { return {text(), font(), TextBox().width()}; }
@@ -27,12 +30,13 @@ protected:
 private:
     [[nodiscard]] bool IsHighLetter() const;
     [[nodiscard]] int TextTop(const TextLines& lines) const;
+    [[nodiscard]] QRectF PlateOf(const TextLines& lines, QPointF corner) const;
     void PaintBorder(QPainter& painter) const;
 
-    QColor ground_;
-    QColor ink_;
+    Ink ink_;
     bool centred_ = false;
     bool snug_ = false;
+    bool framed_ = false;
     int border_ = 0;
 };
 
@@ -46,6 +50,8 @@ public:
     /// The size of letters, in pixels, at which the text fits into its box; that of the design if it can be.
     [[nodiscard]] int NeededSize() const { return needed_; }
     void SetFontSize(int pixels);
+    /// Makes the letters stand out from the ground that they have now.
+    void RaiseContrast();
 
 protected:
     void Apply(const LabelLook& look) override;

@@ -7,12 +7,22 @@
 namespace platform::desktop {
 
 void SetLook(const Scale& scale) {
-    constexpr QRgb kGround = 0xEFEFEF;
     constexpr int kCacheLimit = 4096;  // kilobytes
-    QApplication::setPalette(QPalette(QColor(kGround)));
+    SetColors(false);
     SetLetters(scale);
     QApplication::setQuitOnLastWindowClosed(false);
     QPixmapCache::setCacheLimit(kCacheLimit);
+}
+
+void SetColors(bool highContrast) {
+    constexpr QRgb kGround = 0xEFEFEF;
+    QPalette palette{QColor(kGround)};
+    if (highContrast) {
+        palette.setColor(QPalette::Highlight, Qt::black);
+        palette.setColor(QPalette::HighlightedText, Qt::white);
+        palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::darkGray);
+    }
+    QApplication::setPalette(palette);
 }
 
 void SetLetters(const Scale& scale) {

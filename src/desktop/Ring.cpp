@@ -5,7 +5,7 @@
 
 namespace platform::desktop {
 
-Ring::Ring(QWidget& client) : QWidget(&client) {
+Ring::Ring(QWidget& client, Qt::GlobalColor bright) : QWidget(&client), bright_(bright) {
     setObjectName("ring");
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
@@ -18,7 +18,7 @@ void Ring::Surround(const QWidget* widget, int band) {
     const int margin = 2 * band_;
     const QRect box = widget->geometry().adjusted(-margin, -margin, margin, margin) & parentWidget()->rect();
     if (box != geometry()) setGeometry(box);
-    if (parentWidget()->children().last() != this) raise();
+    if (dynamic_cast<const Ring*>(parentWidget()->children().last()) == nullptr) raise();
 }
 
 void Ring::paintEvent(QPaintEvent* /*event*/) {
@@ -32,7 +32,7 @@ void Ring::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(outer, color);
     };
     band(0, Qt::black);
-    band(band_, Qt::white);
+    band(band_, bright_);
 }
 
 }  // namespace platform::desktop

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/Colors.h"
+#include "desktop/Contrast.h"
 #include "desktop/Strings.h"
 
 namespace platform::desktop {
@@ -71,9 +72,11 @@ TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& clie
 }
 
 void TextBoxView::Apply(const TextBoxLook& look) {
+    const Ink design{ToQt(look.BackColor), ToQt(look.ForeColor)};
+    const Ink ink = toolkit_.Wishes.HighContrast ? Readable(design) : design;
     QPalette palette = widget_.palette();
-    palette.setColor(QPalette::Base, ToQt(look.BackColor));
-    palette.setColor(QPalette::Text, ToQt(look.ForeColor));
+    palette.setColor(QPalette::Base, ink.Ground);
+    palette.setColor(QPalette::Text, ink.Letters);
     widget_.setPalette(palette);
     widget_.setFont(toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold));
     widget_.setAlignment(Qt::AlignVCenter | (look.Align == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft));

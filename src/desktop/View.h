@@ -10,6 +10,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/Scale.h"
 #include "desktop/Sizing.h"
+#include "desktop/Wishes.h"
 #include "platform/Screen.h"
 
 namespace platform::desktop {
@@ -22,6 +23,7 @@ struct Toolkit {
     const desktop::Pictures& Pictures;
     desktop::DoubleClicks& DoubleClicks;
     desktop::Sizing& Sizing;
+    const desktop::Wishes& Wishes;
 };
 
 /// Brings the state of one element before the player's eyes, in one widget named like the element.

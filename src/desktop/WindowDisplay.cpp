@@ -9,7 +9,10 @@
 namespace platform::desktop {
 
 WindowDisplay::WindowDisplay(const Scale& scale) : scale_(scale) {
-    sizing_.OnFactor = [this] { Rescale(); };
+    sizing_.OnFactor = [this] {
+        SetLetters(scale_);
+        ShowAnew();
+    };
 }
 
 WindowDisplay::~WindowDisplay() {
@@ -68,12 +71,19 @@ void WindowDisplay::Refresh() {
     if (OnRefresh) OnRefresh();
 }
 
-void WindowDisplay::Rescale() {
-    SetLetters(scale_);
+void WindowDisplay::ShowAnew() {
+    if (screen_->Shown().empty()) return;
     const FormWindow* const first = WindowOf(*screen_->Shown().front());
     for (const auto& [form, window] : windows_) {
-        if (window != nullptr && first != nullptr) window->Rescale(*first);
+        if (window != nullptr && first != nullptr) window->ShowAnew(*first);
     }
+}
+
+void WindowDisplay::Heed(const Wishes& wishes) {
+    wishes_ = wishes;
+    screen_->KeepStill(wishes.Stillness);
+    SetColors(wishes.HighContrast);
+    ShowAnew();
 }
 
 void WindowDisplay::WaitUntil(const std::function<bool()>& done) {

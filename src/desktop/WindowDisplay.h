@@ -25,10 +25,12 @@ public:
     void End() override;
     [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
 
+    /// Shows everything as the player wishes it from here on.
+    void Heed(const Wishes& wishes);
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// What its windows are made with.
-    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_, sizing_}; }
+    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_, sizing_, wishes_}; }
     /// The window in front; null if there is none.
     [[nodiscard]] FormWindow* FrontWindow() const;
 
@@ -37,10 +39,11 @@ public:
     std::function<void()> OnEnd;          ///< what must be done before the process ends
 
 private:
-    void Rescale();
+    void ShowAnew();
 
     Scale scale_;
     Sizing sizing_{scale_};
+    Wishes wishes_;
     const Pictures pictures_{scale_};
     DoubleClicks doubleClicks_;
     Screen* screen_ = nullptr;
