@@ -9,6 +9,7 @@ pictures=$(realpath -m "$2")
 shift 2
 mkdir -p "$pictures"
 [ -e "$chroot/etc/debian_version" ] || debootstrap --variant=minbase bookworm "$chroot" >/dev/null
+rm -rf "$chroot/home/jugadora/.local"
 trap 'umount "$chroot/proc" 2>/dev/null || true' EXIT
 mount -t proc proc "$chroot/proc"
 rm -rf "$chroot/packages"
@@ -33,33 +34,47 @@ window 'pulsa una tecla'
 import -window root "$HOME/$1-presentación.png"
 press a
 window 'Versión 1.5'
-press ctrl+n
-window 'Nivel 1'
-press Return
-window 'Nombre del jugador'
-xdotool type --delay 80 Ana
-press Return
-press Return
-press e a s k
-sleep 2
-import -window root "$HOME/$1-palabra.png"
+if [ -s .local/share/zarpi/Guardar.rnd ]; then
+    press ctrl+r
+    window 'Reanudar partida'
+    xdotool type --delay 80 x
+    press Return
+else
+    press ctrl+n
+    window 'Nivel 1'
+    press Return
+    window 'Nombre del jugador'
+    xdotool type --delay 80 Ana
+    press Return
+    press Return
+    # Few words have so many of the rare letters that he does not fall.
+    press e a s w k x j z q v y h
+fi
+sleep 3
+import -window root "$HOME/$1-juego.png"
 press ctrl+s
 wait $program
 END
 play() {
-    inside su jugadora -c "SDL_AUDIODRIVER=dummy xvfb-run -a -s '-screen 0 1024x768x24' sh /packages/play $1"
+    inside su -l jugadora -c "LC_ALL=C.UTF-8 SDL_AUDIODRIVER=dummy xvfb-run -a -s '-screen 0 1024x768x24' sh /packages/play $1"
     cp "$chroot/home/jugadora/"*.png "$pictures"
 }
 records=$chroot/home/jugadora/.local/share/zarpi
+stored() { cat "$records"/*.dat "$records"/*.rnd | cksum; }
 play 1
-[ -e "$records/Ultimo.dat" ] || fail "the player has no folder"
-printf ' 7 \r\n' >"$records/UltPart.dat"
+[ -s "$records/Ultimo.dat" ] || fail "the player has no folder"
+# A game that she has saved at its last word but one.
+printf ' 1 \r\n' >"$records/Ultimo.dat"
+printf ' 29 3 0 60 190 14 9Bego\361a        28-12-2026 x          4    0     ' >"$records/Guardar.rnd"
+before=$(stored)
 inside sh -c 'apt-get install -y -qq --no-install-recommends --reinstall /packages/*.deb' >/dev/null
+[ "$(stored)" = "$before" ] || fail "the records are not what they were"
 play 2
-[ "$(cat "$records/UltPart.dat")" = "$(printf ' 7 \r')" ] || fail "the records are not what they were"
+[ "$(tr -d ' \r\n' <"$records/Ultimo.dat")" = 0 ] || fail "the saved game is not resumed"
+before=$(stored)
 inside apt-get remove -y -qq zarpi zarpi-data >/dev/null
-[ ! -e "$chroot/usr/bin/zarpi" ] || fail "the program stays"
+[ ! -e "$chroot/usr/games/zarpi" ] || fail "the program stays"
 inside apt-get purge -y -qq zarpi zarpi-data >/dev/null
 [ -z "$(find "$chroot/usr" "$chroot/etc" "$chroot/var/lib" -name '*zarpi*' ! -path '*/dpkg/*')" ] || fail "something stays"
-[ -e "$records/UltPart.dat" ] || fail "the records are gone"
+[ "$(stored)" = "$before" ] || fail "the records are gone"
 echo "bien: las imágenes están en $pictures"
