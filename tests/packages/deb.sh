@@ -74,7 +74,7 @@ play 2
 before=$(stored)
 inside apt-get remove -y -qq zarpi zarpi-data >/dev/null
 [ ! -e "$chroot/usr/games/zarpi" ] || fail "the program stays"
-inside apt-get purge -y -qq zarpi zarpi-data >/dev/null
+inside dpkg --purge zarpi zarpi-data 2>/dev/null
 [ -z "$(find "$chroot/usr" "$chroot/etc" "$chroot/var/lib" -name '*zarpi*' ! -path '*/dpkg/*')" ] || fail "something stays"
 [ "$(stored)" = "$before" ] || fail "the records are gone"
 echo "bien: las imágenes están en $pictures"
