@@ -8,7 +8,7 @@
 
 int main(int argc, char** argv) {
     platform::desktop::Desktop desktop(argc, argv);
-    if (!desktop.EnterFolder({.Holds = juego::HayArchivos, .Furnish = juego::EstrenarCarpeta})) return EXIT_FAILURE;
+    if (!desktop.EnterFolder({.Holds = juego::HayArchivos, .Furnish = juego::EstrenarCarpeta})) return EXIT_SUCCESS;
     juego::Juego juego(desktop.Services());
     juego.Start();
     return desktop.Run();

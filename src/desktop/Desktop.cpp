@@ -9,6 +9,7 @@
 
 #include "desktop/Access.h"
 #include "desktop/Announcer.h"
+#include "desktop/Doorbell.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/FormPrinter.h"
 #include "desktop/Heartbeat.h"
@@ -70,6 +71,7 @@ private:
     Generator random_{Seed()};
     DurableFiles files_;
     SystemWishes wishes_;
+    Doorbell doorbell_;
     Announcer speech_{[this] { return display_.FrontWindow(); }};
     platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_, speech_};
 };
@@ -88,6 +90,7 @@ Desktop::Parts::Parts(int& argc, char** argv)
     display_.OnFirstWindow = [this] {
         media_.Start();
         LoadTranslation();
+        doorbell_.Answer([this] { display_.ComeToFront(); });
         wishes_.Watch([this](const Wishes& wishes) { display_.Heed(wishes); });
     };
 }
@@ -95,7 +98,10 @@ Desktop::Parts::Parts(int& argc, char** argv)
 bool Desktop::Parts::EnterFolder(const GameFolder::Keeper& keeper) {
     QApplication::setApplicationName("zarpi");
     const bool free = folder_.Enter(GameFolder::SystemPlaces(), keeper);
-    if (!free) ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
+    if (!free && !Doorbell::Ring()) {
+        QApplication::setWindowIcon(display_.Kit().Pictures.Stored("icon", {64, 64}));
+        ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
+    }
     display_.Kit().Sizing.Recall();
     SetLetters(display_.Kit().Scale);
     return free;

@@ -11,7 +11,7 @@ namespace platform::desktop {
 ///
 ///     int main(int argc, char** argv) {
 ///         platform::desktop::Desktop desktop(argc, argv);
-///         if (!desktop.EnterFolder(keeper)) return EXIT_FAILURE;
+///         if (!desktop.EnterFolder(keeper)) return EXIT_SUCCESS;
 ///         Game game(desktop.Services());
 ///         game.Start();
 ///         return desktop.Run();
@@ -23,8 +23,8 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    /// Settles the game folder, which is the current one from here on. False, and the player told, if a game is already
-    /// running there. To be called before anything is read or stored.
+    /// Settles the game folder, which is the current one from here on. False if a game is already running there: it
+    /// comes to the front, or the player is told. To be called before anything is read or stored.
     bool EnterFolder(const GameFolder::Keeper& keeper);
 
     /// What the game works with; lives as long as this does.

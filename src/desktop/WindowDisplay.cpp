@@ -1,6 +1,6 @@
 #include "desktop/WindowDisplay.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEventLoop>
 #include <cstdlib>
 
@@ -77,6 +77,18 @@ void WindowDisplay::ShowAnew() {
     for (const auto& [form, window] : windows_) {
         if (window != nullptr && first != nullptr) window->ShowAnew(*first);
     }
+}
+
+void WindowDisplay::ComeToFront() const {
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr && window->isMinimized())
+            window->setWindowState(window->windowState() ^ Qt::WindowMinimized);
+    }
+    QWidget* const dialog = QApplication::activeModalWidget();
+    QWidget* const front = dialog != nullptr ? dialog : FrontWindow();
+    if (front == nullptr) return;
+    front->raise();
+    front->activateWindow();
 }
 
 void WindowDisplay::Heed(const Wishes& wishes) {

@@ -25,6 +25,8 @@ public:
     void End() override;
     [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
 
+    /// Brings the windows before those of other programs, as far as the desktop lets them.
+    void ComeToFront() const;
     /// Shows everything as the player wishes it from here on.
     void Heed(const Wishes& wishes);
     /// The window of an open form; null if it is not open.

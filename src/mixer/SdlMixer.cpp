@@ -56,6 +56,8 @@ bool SdlMixer::Open() {
     const auto now = std::chrono::steady_clock::now();
     if (now < nextTry_) return false;
     nextTry_ = now + kRetryAfter;
+    SDL_SetHint(SDL_HINT_APP_NAME, "Juego de Zarpi");
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Música y sonidos");
     if (Mix_OpenAudio(kRate, AUDIO_S16SYS, kStereo, kBlock) != 0) return false;
     Mix_AllocateChannels(0);
     level_ = 1;

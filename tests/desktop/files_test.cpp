@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <future>
 #include <gtest/gtest.h>
 
 #ifdef Q_OS_UNIX
@@ -13,6 +14,7 @@
 
 #include "ContratoArchivos.h"
 #include "Rig.h"
+#include "desktop/Doorbell.h"
 #include "desktop/DurableFiles.h"
 #include "desktop/GameFolder.h"
 
@@ -127,6 +129,22 @@ TEST_F(Folder, OneGameAFolder) {
     first.Leave();
     EXPECT_TRUE(GameFolder().Enter({}, keeper));
     EXPECT_EQ(QDir::current(), QDir(folder.path()));
+}
+
+TEST_F(Folder, ASecondStartCallsTheFirst) {
+    EXPECT_FALSE(Doorbell::Ring()) << "nobody is there";
+    EXPECT_TRUE(QDir().entryList(QDir::Files | QDir::Hidden).isEmpty());
+    Doorbell bell;
+    int called = 0;
+    bell.Answer([&called] { ++called; });
+    for (const int times : {1, 2}) {
+        auto second = std::async(std::launch::async, Doorbell::Ring);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return called == times; }));
+        EXPECT_TRUE(second.get());
+    }
+    ASSERT_TRUE(files.Replace("CeI.rnd", "records"));
+    QTest::qWait(50);
+    EXPECT_EQ(called, 2) << "other files are no bell";
 }
 
 TEST_F(Folder, ALockOfAnotherMachineHoldsWhileItsGameIsAlive) {

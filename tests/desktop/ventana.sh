@@ -73,12 +73,17 @@ after=$(misses)
 press dead_acute e
 [ "$(misses)" = "$after" ] || fail "an accented vowel has cost a miss"
 
-# A second program in the same folder tells so and leaves when its notice is accepted.
+# A second program in the same folder calls the first one and leaves.
+"$1" 2>/dev/null &
+await gone $!
+# Where the first one does not answer it tells so, and leaves when its notice is accepted.
+kill -STOP $program
 "$1" 2>/dev/null &
 second=$!
-await visible --pid $second
+window 'Juego de Zarpi$'
 press Return
 await gone $second
+kill -CONT $program
 gone $program && fail "the first program has gone"
 press ctrl+s
 await gone $program
