@@ -1,25 +1,18 @@
 // The page's own dialogs: what the program asks, and the end of the game.
 
-function make(tag, text, parent) {
-  const node = document.createElement(tag);
-  node.textContent = text;
-  parent.append(node);
-  return node;
-}
+import { make } from "./dom.js";
 
 /**
  * Asks with a list of buttons; the first is the default one, and the last is meant by Esc. Comes back with the number of
  * the button. `content` is a text or a node.
  */
 export function ask(title, content, buttons) {
-  const dialog = make("dialog", "", document.body);
-  dialog.className = "message";
+  const dialog = make("dialog", document.body, { className: "message" });
   dialog.setAttribute("aria-label", title);
-  make("h1", title, dialog);
-  if (typeof content === "string") make("p", content, dialog);
+  make("h1", dialog, { textContent: title });
+  if (typeof content === "string") make("p", dialog, { textContent: content });
   else dialog.append(content);
-  const row = make("div", "", dialog);
-  row.className = "buttons";
+  const row = make("div", dialog, { className: "buttons" });
   return new Promise((resolve) => {
     const close = (number) => {
       dialog.close();
@@ -27,8 +20,7 @@ export function ask(title, content, buttons) {
       resolve(number);
     };
     buttons.forEach((caption, i) => {
-      const button = make("button", caption, row);
-      button.type = "button";
+      const button = make("button", row, { type: "button", textContent: caption });
       button.addEventListener("click", () => close(i));
     });
     dialog.addEventListener("cancel", (event) => {
@@ -47,10 +39,9 @@ export function showEnd(title, text) {
   const desk = document.getElementById("desk");
   desk.replaceChildren();
   desk.className = "end";
-  make("h1", title, desk);
-  if (text) make("p", text, desk);
-  const again = make("button", "Jugar otra vez", desk);
-  again.type = "button";
+  make("h1", desk, { textContent: title });
+  if (text) make("p", desk, { textContent: text });
+  const again = make("button", desk, { type: "button", textContent: "Jugar otra vez" });
   again.addEventListener("click", () => location.reload());
   again.focus();
 }

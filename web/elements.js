@@ -1,26 +1,14 @@
 // One DOM element for each element of a window, at its place, in twips.
 
+import { make, setAttribute } from "./dom.js";
 import { available, fileOf, pictureOf } from "./pictures.js";
 import { placeText, setFont, twips } from "./text.js";
-
-function make(tag, className, parent) {
-  const node = document.createElement(tag);
-  node.className = className;
-  parent?.append(node);
-  return node;
-}
 
 /** A mixture of two colours; `share` is that of the second. */
 function mixed(colour, other, share) {
   const part = (text, i) => parseInt(text.slice(1 + 2 * i, 3 + 2 * i), 16);
   const mix = [0, 1, 2].map((i) => Math.round(part(colour, i) * (1 - share) + part(other, i) * share));
   return `rgb(${mix.join(" ")})`;
-}
-
-/** Sets an attribute, or takes it away where the value is null. */
-function setAttribute(node, name, value) {
-  if (value === null) node.removeAttribute(name);
-  else node.setAttribute(name, value);
 }
 
 function lineWidth(pixels) {
@@ -53,8 +41,8 @@ class Element {
 
 class Label extends Element {
   constructor(state) {
-    super(make("div", "label"), state);
-    this.text = make("span", "text", this.node);
+    super(make("div", null, { className: "label" }), state);
+    this.text = make("span", this.node, { className: "text" });
   }
 
   apply(state) {
@@ -70,12 +58,21 @@ class Label extends Element {
     }
     node.title = state.tip;
     const box = { width: state.width - 2 * edge, height: state.height - 2 * edge };
-    placeText(this.text, state.caption, state, box, state.centred && (state.back !== null || state.border));
+    const framed = state.centred && (state.back !== null || state.border);
+    this.place = (size) => placeText(this.text, state.caption, state, box, framed, size);
+    this.needed = this.size = this.place(state.size);
+    this.family = [state.font, state.size, state.back, state.fore, state.centred, state.border].join();
     const ground = state.back ?? "transparent";
     node.style.backgroundColor = state.snug ? "transparent" : ground;
     this.text.style.backgroundColor = state.snug ? ground : "";
     this.text.classList.toggle("snug", state.snug);
     this.#name(state);
+  }
+
+  /** Gives the letters a size, at most the one that is needed. */
+  level(size) {
+    if (size === this.size) return;
+    this.size = this.place(size);
   }
 
   #name({ clicks, caption, spoken }) {
@@ -88,9 +85,8 @@ class Label extends Element {
 
 class Picture extends Element {
   constructor(state) {
-    super(make("div", "picture"), state);
-    this.image = make("img", "", this.node);
-    this.image.draggable = false;
+    super(make("div", null, { className: "picture" }), state);
+    this.image = make("img", this.node, { draggable: false });
     this.fills = state.kind === "Image";
   }
 
@@ -114,7 +110,7 @@ class Picture extends Element {
 
 class Shape extends Element {
   constructor(state) {
-    super(make("div", "shape"), state);
+    super(make("div", null, { className: "shape" }), state);
     this.node.setAttribute("aria-hidden", "true");
   }
 
@@ -130,7 +126,7 @@ class Shape extends Element {
 
 class Line extends Element {
   constructor(state) {
-    super(make("div", "line"), state);
+    super(make("div", null, { className: "line" }), state);
     this.node.setAttribute("aria-hidden", "true");
   }
 
@@ -145,10 +141,8 @@ class Line extends Element {
 
 class Button extends Element {
   constructor(state) {
-    super(make("button", "button"), state);
-    this.node.type = "button";
-    this.node.tabIndex = state.tab === 0 ? -1 : 0;
-    this.text = make("span", "text", this.node);
+    super(make("button", null, { className: "button", type: "button", tabIndex: state.tab === 0 ? -1 : 0 }), state);
+    this.text = make("span", this.node, { className: "text" });
   }
 
   apply(state) {
@@ -163,10 +157,7 @@ class Button extends Element {
 
 class TextBox extends Element {
   constructor(state) {
-    super(make("input", "textBox"), state);
-    this.node.autocomplete = "off";
-    this.node.spellcheck = false;
-    this.node.setAttribute("autocapitalize", "words");
+    super(make("input", null, { className: "textBox", autocomplete: "off", autocapitalize: "words", spellcheck: false }), state);
   }
 
   apply(state) {
@@ -194,9 +185,8 @@ class TextBox extends Element {
 
 class ListBox extends Element {
   constructor(state) {
-    super(make("div", "listBox"), state);
+    super(make("div", null, { className: "listBox", tabIndex: 0 }), state);
     this.node.setAttribute("role", "listbox");
-    this.node.tabIndex = 0;
   }
 
   apply(state) {
@@ -206,12 +196,10 @@ class ListBox extends Element {
     node.setAttribute("aria-label", state.spoken);
     node.setAttribute("aria-disabled", String(!state.enabled));
     const rows = state.lines.map((line, i) => {
-      const row = make("div", "row");
+      const row = make("div", null, { className: "row", id: `${node.id}.${i}`, textContent: line });
       row.setAttribute("role", "option");
       row.setAttribute("aria-selected", String(i === state.selected));
-      row.id = `${node.id}.${i}`;
       row.dataset.row = String(i);
-      row.textContent = line;
       return row;
     });
     node.replaceChildren(...rows);

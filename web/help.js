@@ -2,6 +2,7 @@
 
 import { pack, unpack } from "./archive.js";
 import { ask } from "./dialogs.js";
+import { make } from "./dom.js";
 
 const RECORDS = /^[A-Za-z]{3,8}\.(dat|rnd)$/;
 
@@ -13,18 +14,9 @@ const KEYS = [
   ["Las flechas en una pantalla táctil", "arrastra el dedo hacia un lado"],
 ];
 
-function make(tag, text, parent) {
-  const node = document.createElement(tag);
-  node.textContent = text;
-  parent.append(node);
-  return node;
-}
-
 function download(storage) {
   const records = new Map([...storage.files].filter(([name]) => RECORDS.test(name)));
-  const link = document.createElement("a");
-  link.href = URL.createObjectURL(pack(records));
-  link.download = "zarpi-partidas.zip";
+  const link = make("a", null, { href: URL.createObjectURL(pack(records)), download: "zarpi-partidas.zip" });
   link.click();
   setTimeout(() => URL.revokeObjectURL(link.href), 10000);
 }
@@ -54,34 +46,29 @@ async function bringBack(chosen, storage) {
 }
 
 function fileButtons(storage) {
-  const row = document.createElement("div");
-  row.className = "files";
-  const take = make("button", "Descargar tus archivos", row);
-  take.type = "button";
+  const row = make("div", null, { className: "files" });
+  const take = make("button", row, { type: "button", textContent: "Descargar tus archivos" });
   take.addEventListener("click", () => download(storage));
-  const label = make("label", "Traer archivos…", row);
-  const input = make("input", "", label);
-  input.type = "file";
-  input.multiple = true;
-  input.accept = ".zip,.dat,.rnd";
+  const label = make("label", row, { textContent: "Traer archivos…" });
+  const input = make("input", label, { type: "file", multiple: true, accept: ".zip,.dat,.rnd" });
   input.addEventListener("change", () => bringBack(input.files, storage));
   return row;
 }
 
 /** Shows the help until the player closes it. */
 export async function showHelp(storage) {
-  const content = document.createElement("div");
-  make("h2", "Teclas en el navegador", content);
-  const list = make("dl", "", content);
+  const content = make("div");
+  make("h2", content, { textContent: "Teclas en el navegador" });
+  const list = make("dl", content);
   for (const [keys, what] of KEYS) {
-    make("dt", keys, list);
-    make("dd", what, list);
+    make("dt", list, { textContent: keys });
+    make("dd", list, { textContent: what });
   }
-  make("h2", "Tus archivos", content);
+  make("h2", content, { textContent: "Tus archivos" });
   const where = storage.keeps
     ? "Las partidas guardadas y los cuadros de honor están en este navegador. Descárgalos para llevarlos a otro, o al juego de escritorio: son los mismos archivos."
     : "Este navegador no deja guardar nada: lo que guardes se perderá al cerrar la página.";
-  make("p", where, content);
+  make("p", content, { textContent: where });
   content.append(fileButtons(storage));
   await ask("El juego de Zarpi en el navegador", content, ["Cerrar"]);
 }

@@ -44,6 +44,7 @@ class Page {
 
   #show(message) {
     for (const object of message) this.#deeds[object.do]?.(object);
+    for (const window of this.#windows.values()) window.levelTexts();
     if (this.front && !this.front.hasFocus && !document.querySelector("dialog.message")) this.front.takeFocus();
     this.#openKeyboard();
   }

@@ -1,14 +1,9 @@
 // The menu bar of a window, by the pattern that screen readers know: arrows, Enter, Esc, first letters.
 
+import { make, setAttribute } from "./dom.js";
+
 /** Shortcuts that browsers keep for themselves. */
 const RESERVED = /^Ctrl\+[NTW]$/;
-
-function make(tag, role, parent) {
-  const node = document.createElement(tag);
-  node.setAttribute("role", role);
-  parent.append(node);
-  return node;
-}
 
 /** The shortcut as it works in a browser. */
 function working(shortcut) {
@@ -23,8 +18,8 @@ export class MenuBar {
   constructor(parent, choose, leave) {
     this.choose = choose;
     this.leave = leave;
-    this.node = make("div", "menubar", parent);
-    this.node.className = "menubar";
+    this.node = make("div", parent, { className: "menubar" });
+    this.node.setAttribute("role", "menubar");
     this.node.addEventListener("keydown", (event) => this.#key(event));
     this.node.addEventListener("click", (event) => this.#click(event));
     this.node.addEventListener("pointerover", (event) => this.#hover(event));
@@ -41,17 +36,14 @@ export class MenuBar {
     const [before, rest] = state.caption.includes("&") ? state.caption.split("&") : [state.caption, ""];
     entry.text.replaceChildren(before);
     if (rest !== "") {
-      const mnemonic = document.createElement("u");
-      mnemonic.textContent = rest[0];
-      entry.text.append(mnemonic, rest.slice(1));
+      entry.text.append(make("u", null, { textContent: rest[0] }), rest.slice(1));
       entry.mnemonic = rest[0].toLowerCase();
     }
     entry.shortcut.textContent = working(state.shortcut);
     entry.node.setAttribute("aria-disabled", String(!state.enabled));
     if (state.parent === "") return;
     entry.node.setAttribute("role", state.checked ? "menuitemcheckbox" : "menuitem");
-    if (state.checked) entry.node.setAttribute("aria-checked", "true");
-    else entry.node.removeAttribute("aria-checked");
+    setAttribute(entry.node, "aria-checked", state.checked ? "true" : null);
   }
 
   /** Whether an entry has this shortcut. */
@@ -84,25 +76,24 @@ export class MenuBar {
     const parent = this.#entries.get(state.parent);
     const box = parent ? (parent.box ??= this.#addBox(parent)) : this.node;
     const role = state.caption === "-" ? "separator" : "menuitem";
-    const node = make(parent ? "div" : "button", role, box);
-    node.tabIndex = this.#entries.size === 0 ? 0 : -1;
+    const node = make(parent ? "div" : "button", box, { tabIndex: this.#entries.size === 0 ? 0 : -1 });
+    node.setAttribute("role", role);
     node.dataset.menu = state.name;
     const entry = { node, state };
     if (role === "menuitem") {
-      entry.text = node.appendChild(document.createElement("span"));
-      entry.shortcut = node.appendChild(document.createElement("kbd"));
+      entry.text = make("span", node);
+      entry.shortcut = make("kbd", node);
     }
     this.#entries.set(state.name, entry);
     return entry;
   }
 
   #addBox(menu) {
-    const holder = document.createElement("div");
-    holder.className = "menu";
+    const holder = make("div", null, { className: "menu" });
     menu.node.replaceWith(holder);
     holder.append(menu.node);
-    const box = make("div", "menu", holder);
-    box.hidden = true;
+    const box = make("div", holder, { hidden: true });
+    box.setAttribute("role", "menu");
     box.setAttribute("aria-label", menu.text.textContent);
     menu.node.setAttribute("aria-haspopup", "menu");
     menu.node.setAttribute("aria-expanded", "false");

@@ -1,7 +1,52 @@
-// How the main window stands on a small screen: the stage as large as fits, below it (upright) or beside it (sideways)
-// a strip of what stands right of it elsewhere, then the keys at a size for fingers. Lengths are twips of the design.
+// How windows stand on a small screen. The main one: the stage as large as fits, below it (upright) or beside it
+// (sideways) a strip of what stands right of it elsewhere, then the keys at a size for fingers. Others are stacked.
+// Lengths are twips of the design.
 
-const FORM = "Zarpi";
+import { STACKED } from "./stacked.js";
+
+const STACKED_WIDTH = 600; // pixels; in less, windows are stacked
+
+/** Whether the screen is one for which the main window has another order: a phone, or a tablet held upright. */
+function isSmall() {
+  const byFingers = matchMedia("(pointer: coarse)").matches;
+  const isUpright = innerWidth < 0.8 * innerHeight && (innerWidth < 640 || byFingers);
+  return isUpright || (byFingers && innerHeight < 500);
+}
+
+/**
+ * The order of a form in a room of `width` by `height` pixels: the length of a twip in pixels, the size of the client area in
+ * twips, and `place`, which gives the state of an element its place. Null where the form stands as it was designed.
+ */
+export function narrowOrder(form, { width, height }) {
+  if (form.form === "Zarpi") return isSmall() ? mainOrder(width, height) : null;
+  const order = STACKED[form.form];
+  if (order === undefined || width >= STACKED_WIDTH || width > height) return null;
+  return {
+    twip: width / order.width,
+    width: order.width,
+    height: order.height(form.height),
+    place: (state) => moved(state, order.groups),
+  };
+}
+
+/**
+ * The state of an element at its place in the first group that names it: from one corner to another, `scale` times as
+ * large, `wider` by as much or with a `width` and `height` of its own, what is below it `apart` times as far.
+ */
+function moved(state, groups, corner = [0, 0]) {
+  const group = groups.find(({ names }) => names.test(state.name));
+  if (group === undefined) return state;
+  const { from, to, scale = 1, apart = 1, wider = 0, width, height } = group;
+  return {
+    ...state,
+    left: corner[0] + to[0] + (state.left - from[0]) * scale,
+    top: corner[1] + to[1] + (state.top - from[1]) * scale * apart,
+    width: width ?? state.width * scale + wider,
+    height: height ?? state.height * scale,
+    size: state.size * scale,
+  };
+}
+
 const STAGE = { width: 9060, height: 8300 };
 const STRIP_HEIGHT = 2000;
 const LEAST_KEY_WIDTH = 46; // pixels
@@ -13,29 +58,25 @@ const GAP = 45;
 const KEYS = "BCDFGHJKLMNÑPQRSTVWXYZAEIOU"; // by their index, from 1
 const ORDER = "ABCDEFGHIJKLMNÑOPQRSTUVWXYZ";
 
-/** Groups of elements, where the corner of each stands in the design, and where it goes in the strip, how much larger. */
-const GROUPS = [
-  { names: /^(lblMensajeTiem|lblTiempo|Label8|lblNombre)$/, from: [9630, 120], to: [60, 80], scale: 1 },
-  { names: /^(lblComodín\(\d+\)|Shape1)$/, from: [9150, 3300], to: [2650, 60], scale: 1 },
-  { names: /^lblComentAngus$/, from: [9330, 1770], to: [5500, 80], scale: 1.3 },
-  { names: /^Picture5$/, from: [9180, 1230], to: [5800, 60], scale: 1 },
+/**
+ * In the strip. Of the jokers the first is the one that is pressed; the others are counted. The hero falls over the place of
+ * the keys, which are gone then.
+ */
+const STRIP = [
+  { names: /^(lblMensajeTiem|lblTiempo|Label8|lblNombre)$/, from: [9630, 120], to: [60, 130] },
+  { names: /^lblComodín\(1\)$/, from: [9270, 3420], to: [2750, 220], scale: 2, width: 1260, height: 1610 },
+  { names: /^Shape1$/, from: [9150, 3300], to: [2630, 110], width: 1500, height: 1830 },
+  { names: /^lblComodín\(\d+\)$/, from: [9270, 3420], to: [4330, 350], scale: 0.8 },
+  { names: /^lblComentAngus$/, from: [9330, 1770], to: [6380, 120], scale: 1.2, width: 2640, height: 860 },
+  { names: /^Picture5$/, from: [9180, 1230], to: [5800, 60], apart: 0.5 },
+  { names: /^Picture1$/, from: [9060, 5310], to: [5000, 1500] },
   { names: /^lblComentCaída$/, from: [9180, 4380], to: [1000, 150], scale: 1.6 },
-  { names: /^(shpMosOcul|cmdMostrar|cmdOcultar)$/, from: [10230, 7470], to: [5650, 960], scale: 1.95 },
+  { names: /^(shpMosOcul|cmdMostrar|cmdOcultar)$/, from: [10230, 7470], to: [6480, 1000], scale: 1.5 },
 ];
 
-/** Whether the screen is one for which a form has this order: a phone, or a tablet held upright. */
-export function isNarrow(form) {
-  const byFingers = matchMedia("(pointer: coarse)").matches;
-  const isUpright = innerWidth < 0.8 * innerHeight && (innerWidth < 640 || byFingers);
-  return form === FORM && (isUpright || (byFingers && innerHeight < 500));
-}
-
-/**
- * The order for a screen of `width` by `height`: the length of a twip in pixels, and in twips the size of the client area,
- * where the strip begins, and where and how large the keys are.
- */
-export function narrowSize(width, height) {
-  return width < height ? upright(width, height) : sideways(width, height);
+function mainOrder(width, height) {
+  const order = width < height ? upright(width, height) : sideways(width, height);
+  return { ...order, place: (state) => mainState(state, order) };
 }
 
 function upright(width, height) {
@@ -71,22 +112,11 @@ function sideways(width, height) {
   };
 }
 
-/** The state of an element with the place that it has in an order. */
-export function narrowState(state, { strip, keys }) {
+function mainState(state, { strip, keys }) {
   const index = Number(state.name.match(/^(?:lbl|shp)Tecla\((\d+)\)$/)?.[1] ?? 0);
   if (index > 0) return keyState(state, index, keys);
   if (state.name === "lblTeclado" || state.name === "linTeclado") return { ...state, visible: false };
-  const group = GROUPS.find(({ names }) => names.test(state.name));
-  if (group === undefined) return state;
-  const { from, to, scale } = group;
-  return {
-    ...state,
-    left: strip[0] + to[0] + (state.left - from[0]) * scale,
-    top: strip[1] + to[1] + (state.top - from[1]) * scale,
-    width: state.width * scale,
-    height: state.height * scale,
-    size: state.size * scale,
-  };
+  return moved(state, STRIP, strip);
 }
 
 function keyState(state, index, { left, top, width, height }) {

@@ -3,11 +3,10 @@
 /** Puts a copy of the window's client area where only the printer sees it, and opens the browser's print dialog. */
 export function printWindow(window) {
   const place = document.getElementById("print");
-  const copy = window.client.cloneNode(true);
+  const { client: copy, width, height } = window.copy();
   for (const node of copy.querySelectorAll("[id]")) node.removeAttribute("id");
   for (const node of copy.querySelectorAll(".keys")) node.remove();
   // As large as fits both A4 and Letter with their margins.
-  const { width, height } = window.size;
   place.style.setProperty("--twip", `min(${257 / width}mm, ${180 / height}mm)`);
   place.replaceChildren(copy);
   const clear = () => place.replaceChildren();

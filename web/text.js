@@ -24,9 +24,14 @@ function widthOf(text, look, size) {
   return pen.measureText(text).width + (SPACING[look.font] ?? 0) * size * letters;
 }
 
+/** "Ctrl + N" is one word for whoever reads it. */
+function unbroken(text) {
+  return text.replaceAll(" + ", "\u00a0+\u00a0");
+}
+
 function brokenLines(text, look, size, width) {
   const lines = [];
-  for (const paragraph of text.split("\n")) {
+  for (const paragraph of unbroken(text).split("\n")) {
     let line = "";
     for (const word of paragraph.match(/ *[^ ]+/g) ?? [""]) {
       if (line === "" || widthOf(line + word, look, size) <= width) {
@@ -53,10 +58,9 @@ function layOut(text, look, size, box) {
   return { size, lines, height, ascent: metrics.fontBoundingBoxAscent + (height - ink) / 2, fits };
 }
 
-/** A text in a box, its letters as much smaller as it takes, down to half their size. */
-function fitted(text, look, box) {
+/** A text in a box, its letters as much smaller than `size` as it takes, down to half those of its look. */
+function fitted(text, look, box, size) {
   const step = Math.max(1, look.size / 40);
-  let size = look.size;
   let layout = layOut(text, look, size, box);
   while (!layout.fits && text.length > 1 && size - step >= look.size / 2) {
     size -= step;
@@ -84,12 +88,15 @@ function topOf(layout, framed, box) {
 
 const known = new Map();
 
-/** What `span` must be to show a text in its box: `framed` texts stand in its middle. */
-export function placeText(span, text, look, box, framed) {
-  const key = [text, look.font, look.bold, look.size, box.width, box.height, framed].join("\t");
+/**
+ * Makes `span` show a text in its box, in letters of `size` or smaller ones where they are too large: `framed` texts stand in
+ * its middle. Comes back with the size of the letters.
+ */
+export function placeText(span, text, look, box, framed, size = look.size) {
+  const key = [text, look.font, look.bold, look.size, box.width, box.height, framed, size].join("\t");
   let found = known.get(key);
   if (!found) {
-    const layout = fitted(text, look, box);
+    const layout = fitted(text, look, box, size);
     found = { layout, top: topOf(layout, framed, box) };
     if (known.size > 500) known.clear();
     known.set(key, found);
@@ -100,6 +107,7 @@ export function placeText(span, text, look, box, framed) {
   span.style.fontSize = twips(layout.size);
   span.style.lineHeight = twips(layout.height);
   setFont(span, look);
+  return layout.size;
 }
 
 /** The family, weight and spacing of an element's letters, without their size. */

@@ -1,28 +1,25 @@
 // A window of the program: a section of the page, or a dialog over all others. Frame, menu bar, elements.
 
+import { make } from "./dom.js";
 import { makeElement } from "./elements.js";
 import { MenuBar } from "./menus.js";
-import { isNarrow, narrowSize, narrowState } from "./narrow.js";
+import { narrowOrder } from "./narrow.js";
 import { available, fileOf, pictureNamed } from "./pictures.js";
 import { twips } from "./text.js";
 
 const DESIGN_TWIP = 1 / 15; // pixels
+const FINGER_TWIP = 44 / 405; // with which a text box is as large as a finger
 const DRAG_STEP = 5; // pixels
 const SPOKEN_LINES = 6;
 const READABLE = 9; // pixels, the size of letters
 const MUCH = 300; // characters
 
-function make(tag, className, parent) {
-  const node = document.createElement(tag);
-  node.className = className;
-  parent.append(node);
-  return node;
-}
-
 export class Window {
   #elements = new Map();
-  #scale = { twip: DESIGN_TWIP };
+  #twip = DESIGN_TWIP;
+  #order = null; // on a small screen
   #form = null;
+  #isLevel = true;
   #focused = "";
   #finger = 0;
 
@@ -31,12 +28,10 @@ export class Window {
     this.name = name;
     this.modal = modal;
     this.send = send;
-    this.node = make(modal ? "dialog" : "section", "window", document.getElementById("desk"));
-    this.node.id = name;
-    this.client = make("div", "client", this.node);
-    this.client.tabIndex = -1;
+    this.node = make(modal ? "dialog" : "section", document.getElementById("desk"), { className: "window", id: name });
+    this.client = make("div", this.node, { className: "client", tabIndex: -1 });
     this.keys = this.#makeKeys();
-    this.spoken = make("div", "spoken", this.node);
+    this.spoken = make("div", this.node, { className: "spoken" });
     this.spoken.setAttribute("role", "status");
     this.#listen();
     if (modal) this.node.showModal();
@@ -79,6 +74,17 @@ export class Window {
       this.client.append(element.node);
     }
     this.#place(element, state);
+    if (state.kind === "Label") this.#isLevel = false;
+  }
+
+  /** Labels that look alike keep letters of one size: where one of them has to shrink, all do. */
+  levelTexts() {
+    if (this.#isLevel) return;
+    this.#isLevel = true;
+    const labels = [...this.#elements.values()].filter(({ told }) => told.kind === "Label" && told.visible);
+    const least = new Map();
+    for (const { family, needed } of labels) least.set(family, Math.min(needed, least.get(family) ?? needed));
+    for (const label of labels) label.level(least.get(label.family));
   }
 
   /** Puts the elements into their layers, the names from back to front. */
@@ -105,9 +111,7 @@ export class Window {
 
   /** Tells a player who listens. Each text is a line of its own, so that the same one is heard again. */
   say(text) {
-    const line = document.createElement("p");
-    line.textContent = text;
-    this.spoken.append(line);
+    make("p", this.spoken, { textContent: text });
     while (this.spoken.children.length > SPOKEN_LINES) this.spoken.firstChild.remove();
   }
 
@@ -122,55 +126,63 @@ export class Window {
     return this.#elements.get(name)?.told;
   }
 
-  get elements() {
-    return [...this.#elements.values()];
-  }
-
-  /** All windows grow with the page as the main one does, but none is made smaller than it was designed if it fits. */
+  /** All windows grow with the page as the main one does, but none is made smaller than it was designed, or than fingers ask, if it fits. */
   resize() {
     if (this.#form === null) return;
     const bar = this.menus?.node ?? this.title.parentElement;
     const room = { width: innerWidth, height: innerHeight - bar.offsetHeight };
-    this.#scale = this.#sizeFor(room);
-    const { twip, width, height } = this.#scale;
-    this.node.style.setProperty("--twip", `${twip}px`);
-    this.client.style.width = twips(width);
-    this.client.style.height = twips(height);
+    this.#order = narrowOrder(this.#form, room);
+    this.node.classList.toggle("narrow", this.#order !== null);
+    this.#twip = this.#twipFor(room);
+    this.node.style.setProperty("--twip", `${this.#twip}px`);
     this.#showGround();
-    for (const element of this.#elements.values()) this.#place(element, element.told);
+    this.#layOut();
   }
 
-  /** Of the client area, in twips. */
-  get size() {
-    return { width: this.#form.width, height: this.#form.height };
+  /** A copy of the client area as it was designed, and its size in twips. */
+  copy() {
+    const order = this.#order;
+    this.#order = null;
+    this.#layOut();
+    const client = this.client.cloneNode(true);
+    this.#order = order;
+    this.#layOut();
+    return { client, width: this.#form.width, height: this.#form.height };
   }
 
   get twip() {
-    return this.#scale.twip;
+    return this.#twip;
   }
 
-  #sizeFor(room) {
+  #twipFor(room) {
     const form = this.#form;
-    this.isNarrow = isNarrow(form.form);
-    this.node.classList.toggle("narrow", this.isNarrow);
-    if (this.isNarrow) return narrowSize(room.width, room.height);
+    if (this.#order !== null) return this.#order.twip ?? this.node.clientWidth / this.#order.width;
     const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
     const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
-    const twip = Math.max(Math.min(fit, Math.max(common, DESIGN_TWIP)), this.#readableTwip(fit));
-    return { twip, width: form.width, height: form.height };
+    const least = matchMedia("(pointer: coarse)").matches ? FINGER_TWIP : DESIGN_TWIP;
+    return Math.max(Math.min(fit, Math.max(common, least)), this.#readableTwip(fit));
+  }
+
+  #layOut() {
+    const { width, height } = this.#order ?? this.#form;
+    this.client.style.width = twips(width);
+    this.client.style.height = twips(height);
+    for (const element of this.#elements.values()) this.#place(element, element.told);
+    this.#isLevel = false;
+    this.levelTexts();
   }
 
   /** What has much to read is made as large as reading takes, and scrolls; 0 where there is nothing of the kind. */
   #readableTwip(fit) {
-    const small = this.elements.map(({ told }) => told).filter(({ kind, visible, size }) => kind === "Label" && visible && size * fit < READABLE);
+    const told = [...this.#elements.values()].map((element) => element.told);
+    const small = told.filter(({ kind, visible, size }) => kind === "Label" && visible && size * fit < READABLE);
     const length = small.reduce((sum, { caption }) => sum + caption.length, 0);
     return this.modal && length > MUCH ? READABLE / Math.min(...small.map(({ size }) => size)) : 0;
   }
 
   #place(element, state) {
     element.told = state;
-    const placed = this.isNarrow ? narrowState(state, this.#scale) : state;
-    element.show(placed, this.twip);
+    element.show(this.#order?.place(state) ?? state, this.#twip);
     element.node.dataset.clicks = String(state.clicks);
   }
 
@@ -178,27 +190,21 @@ export class Window {
     const picture = pictureNamed(this.#form.background);
     if (!picture) return;
     const show = (file) => (this.client.style.backgroundImage = `url("${file}")`);
-    available(picture, fileOf(picture, this.twip)).then(show);
+    available(picture, fileOf(picture, this.#twip)).then(show);
   }
 
   #makeTitle() {
-    const bar = make("header", "titleBar", this.node);
+    const bar = make("header", null, { className: "titleBar" });
     this.node.prepend(bar);
-    this.title = make("h1", "", bar);
-    const cross = make("button", "cross", bar);
-    cross.type = "button";
-    cross.tabIndex = -1;
+    this.title = make("h1", bar);
+    const cross = make("button", bar, { className: "cross", type: "button", tabIndex: -1, textContent: "✕" });
     cross.setAttribute("aria-label", "Cerrar");
-    cross.textContent = "✕";
     cross.addEventListener("click", () => this.send("close", this.name));
   }
 
   /** What has the focus while no element has it: it takes the characters that come without a key press. */
   #makeKeys() {
-    const keys = make("input", "keys", this.client);
-    keys.inputMode = "none";
-    keys.autocomplete = "off";
-    keys.setAttribute("autocapitalize", "off");
+    const keys = make("input", this.client, { className: "keys", inputMode: "none", autocomplete: "off", autocapitalize: "off" });
     keys.setAttribute("aria-label", "Letras del juego");
     return keys;
   }

@@ -14,7 +14,7 @@ const TYPES = {
 const OPTIONS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
   "--disable-component-update", "--disable-sync"];
 
-export const PHONE = { width: 390, height: 740, hasTouch: true, isMobile: true, deviceScaleFactor: 2 };
+export const PHONE = { width: 360, height: 640, hasTouch: true, isMobile: true, deviceScaleFactor: 2 };
 
 /** Serves the page, and under `more` texts of other addresses. */
 export async function serve(more = {}) {
@@ -42,6 +42,11 @@ export async function launch(name = "chrome") {
     await rm(profile, { recursive: true, force: true });
   };
   return { browser, close };
+}
+
+/** The key of a letter on the screen. */
+function key(letter) {
+  return `[id="Zarpi.lblTecla(${"BCDFGHJKLMNÑPQRSTVWXYZAEIOU".indexOf(letter) + 1})"]`;
 }
 
 /** The game in a tab, as its player has it before him. Faults of the page end up in `faults`. */
@@ -90,6 +95,20 @@ export class Player {
 
   async tap(name) {
     await (await this.element(name)).tap();
+  }
+
+  /** What plays a game: how a letter is entered, and how the window in front is closed. */
+  get keyboard() {
+    return { enter: (letter) => this.press(letter.toLowerCase()), accept: () => this.press("Enter") };
+  }
+  get mouse() {
+    return {
+      enter: async (letter) => (await this.page.$(key(letter))).click(),
+      accept: (form) => this.click(`${form}.cmdAceptar`),
+    };
+  }
+  get finger() {
+    return { enter: async (letter) => (await this.page.$(key(letter))).tap(), accept: (form) => this.tap(`${form}.cmdAceptar`) };
   }
 
   /** The text of an element; null while it cannot be seen. */

@@ -39,19 +39,16 @@ export function guess({ language, letters }, tried) {
   return Object.entries(count).sort((a, b) => b[1] - a[1])[0]?.[0];
 }
 
-/**
- * Plays from the first word to the end of the game; `enter` takes a letter. The last words of the hero's panel, and
- * whether the game was won.
- */
-export async function playToTheEnd(page, enter, onWord = async () => {}) {
+/** Plays from the first word to the end of the game by a hand of the player's. Whether the game was won. */
+export async function playToTheEnd({ page }, hand, onWord = async () => {}) {
   let tried = new Set();
   let number = "";
   for (;;) {
     const seen = await look(page);
-    if (seen.front === "frmFecha") return { won: true, message: seen.message };
-    if (/Fin de juego/.test(seen.message)) return { won: false, message: seen.message };
+    if (seen.front === "frmFecha") return true;
+    if (/Fin de juego/.test(seen.message)) return false;
     if (seen.front !== "Zarpi") {
-      await page.keyboard.press("Enter");
+      await hand.accept(seen.front);
       continue;
     }
     if (seen.number !== number) {
@@ -61,9 +58,23 @@ export async function playToTheEnd(page, enter, onWord = async () => {}) {
     }
     const letter = guess(seen, tried);
     if (letter === undefined) throw new Error(`no word goes with ${JSON.stringify(seen)} ${[...tried]}`);
-    await enter(letter);
+    await hand.enter(letter);
     const after = await look(page);
-    if (after.letters !== seen.letters || after.missed !== seen.missed || after.number !== number) tried.add(letter);
+    const isTaken = after.letters !== seen.letters || after.missed !== seen.missed || after.number !== number;
+    if (isTaken || /Repetida/.test(after.message)) tried.add(letter);
     else await new Promise((done) => setTimeout(done, 100)); // an animation locks the keys
+  }
+}
+
+/** Enters letters that few words have, until the game is lost. */
+export async function playToTheFall({ page }, hand) {
+  for (const letter of "WKXJZÑQYVHFGBPCDLMNST") {
+    let before;
+    do {
+      before = await look(page);
+      if (/Fin de juego/.test(before.message)) return;
+      await hand.enter(letter);
+      await new Promise((done) => setTimeout(done, 100)); // an animation locks the keys
+    } while (before.missed === (await look(page)).missed && !before.missed.includes(letter) && !before.letters.includes(letter));
   }
 }
