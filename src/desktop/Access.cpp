@@ -17,10 +17,11 @@ const FormWindow& WindowOf(const QWidget& widget) {
     return static_cast<const FormWindow&>(*widget.window());
 }
 
-/// The client area, with the elements that are seen and have a name.
+/// The client area, with the elements that are seen and have a name. Of a pane a reader says that it is one, and all
+/// its texts, whenever it gets the focus; of this role it says nothing.
 class ClientAccess : public QAccessibleWidget {
 public:
-    explicit ClientAccess(Client& client) : QAccessibleWidget(&client, QAccessible::Pane) {}
+    explicit ClientAccess(Client& client) : QAccessibleWidget(&client, QAccessible::Client) {}
 
     [[nodiscard]] int childCount() const override { return static_cast<int>(Spoken().size()); }
     [[nodiscard]] QAccessibleInterface* child(int index) const override {
@@ -56,7 +57,10 @@ public:
     ElementAccess(View& view, QAccessible::Role role) : QAccessibleWidget(&view.Widget(), role), view_(view) {}
 
     [[nodiscard]] QString text(QAccessible::Text text) const override {
-        return text == QAccessible::Name ? ToQt(SpokenNameOf(view_.Element())) : QAccessibleWidget::text(text);
+        if (text == QAccessible::Name) return ToQt(SpokenNameOf(view_.Element()));
+        // The name that the game gives an element says what its tool tip says.
+        const bool isSaid = text == QAccessible::Description && view_.Element().SpokenName;
+        return isSaid ? QString() : QAccessibleWidget::text(text);
     }
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
@@ -86,9 +90,8 @@ private:
 QAccessibleInterface* MakeAccess(const QString& /*className*/, QObject* object) {
     auto* const widget = dynamic_cast<QWidget*>(object);
     if (widget == nullptr || dynamic_cast<const FormWindow*>(widget->window()) == nullptr) return nullptr;
-    if (widget->isWindow()) {
-        return new QAccessibleWidget(widget, widget->isModal() ? QAccessible::Dialog : QAccessible::Window);
-    }
+    // Of a dialog a reader would say all texts itself, in an order of its own, and then hear them from the game.
+    if (widget->isWindow()) return new QAccessibleWidget(widget, QAccessible::Window);
     if (auto* const client = dynamic_cast<Client*>(widget)) return new ClientAccess(*client);
     View* const view = WindowOf(*widget).Elements().Of(widget);
     if (view == nullptr) return nullptr;

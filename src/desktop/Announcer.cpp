@@ -14,11 +14,11 @@ namespace platform::desktop {
 /// this one from everywhere, and below a status bar they speak the name alone.
 class Notice : public QAccessibleInterface {
 public:
-    Notice(QAccessible::Role role, Notice* bar)
-        : role_(role), bar_(bar), id_(QAccessible::registerAccessibleInterface(this)) {}
+    Notice(QAccessible::Role role, QWidget* window, Notice* bar)
+        : role_(role), window_(window), bar_(bar), id_(QAccessible::registerAccessibleInterface(this)) {}
 
     [[nodiscard]] QAccessible::Id Id() const { return id_; }
-    void SetWindow(QWidget* window) { window_ = window; }
+    [[nodiscard]] const QWidget* Window() const { return window_; }
     void SetName(const QString& name) { name_ = name; }
 
     [[nodiscard]] bool isValid() const override { return true; }
@@ -47,8 +47,8 @@ public:
 
 private:
     const QAccessible::Role role_;
+    const QPointer<QWidget> window_;
     Notice* const bar_;
-    QPointer<QWidget> window_;
     QString name_;
     const QAccessible::Id id_;
 };
@@ -59,6 +59,10 @@ Announcer::Announcer(std::function<QWidget*()> front) : front_(std::move(front))
 }
 
 Announcer::~Announcer() {
+    Clear();
+}
+
+void Announcer::Clear() {
     // The toolkit deletes what is registered with it.
     for (auto& notice : ring_) {
         if (notice) QAccessible::deleteAccessibleInterface(notice.release()->Id());
@@ -92,12 +96,12 @@ void Announcer::Notify(QWidget* window, const QString& text) {
     // The toolkit makes this a notification of the system's.
     QAccessibleValueChangeEvent event(window, text);
 #else
-    if (!bar_) bar_ = std::make_unique<Notice>(QAccessible::StatusBar, nullptr);
+    // Readers remember where an element belongs, and would name the window that it belonged to.
+    if (bar_ && bar_->Window() != window) Clear();
+    if (!bar_) bar_ = std::make_unique<Notice>(QAccessible::StatusBar, window, nullptr);
     auto& notice = ring_.at(next_);
     next_ = (next_ + 1) % ring_.size();
-    if (!notice) notice = std::make_unique<Notice>(QAccessible::Notification, bar_.get());
-    bar_->SetWindow(window);
-    notice->SetWindow(window);
+    if (!notice) notice = std::make_unique<Notice>(QAccessible::Notification, window, bar_.get());
     notice->SetName(text);
     QAccessibleEvent event(notice.get(), QAccessible::ObjectShow);
 #endif

@@ -31,6 +31,7 @@ public:
 private:
     void Speak();
     void Notify(QWidget* window, const QString& text);
+    void Clear();
 
     const std::function<QWidget*()> front_;
     QTimer timer_;

@@ -56,8 +56,17 @@ constexpr auto kLists = std::to_array<Lista>({
 });
 constexpr int kRows = 10;
 
-/// The rules and About are read as they stand, heading before paragraph.
-constexpr std::array<std::string_view, 2> kReadWhole = {"frmNormas", "frmAcerca"};
+/// The rules and About are read as they stand, heading before paragraph; then comes what nobody has to see.
+struct Lectura {
+    std::string_view Form;
+    TextView Añadido;
+};
+constexpr auto kReadWhole = std::to_array<Lectura>({
+    {"frmNormas",
+     u"Sin ratón ni pantalla: F7 prepara el comodín, y una cifra elige la casilla; el cero, la décima. F8 dice cómo va "
+     u"la partida. El tabulador y las flechas recorren la ventana, y la barra espaciadora pulsa."},
+    {"frmAcerca", u""},
+});
 
 Text Nombre(const Control& control) {
     if (control.kind != Kind::TextBox) return SpokenNameOf(control);
@@ -105,8 +114,12 @@ Text Entera(const Form& form) {
 }  // namespace
 
 Text ContenidoDe(const Form& form) {
-    if (std::ranges::find(kReadWhole, form.Name) != kReadWhole.end()) return Entera(form);
     Text said;
+    const auto* const whole = std::ranges::find(kReadWhole, form.Name, &Lectura::Form);
+    if (whole != kReadWhole.end()) {
+        said = Entera(form);
+        voz::Añadir(said, Text(whole->Añadido));
+    }
     for (const Contenido& content : kContents) {
         if (content.Form != form.Name) continue;
         said = content.Texto;

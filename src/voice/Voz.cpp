@@ -31,7 +31,8 @@ Voz::Dicho Voz::Ahora() const {
             .Comodín = z.fComodín,
             .Error = z.lblMensajeError.Visible,
             .Ventana = front,
-            .Contenido = front == nullptr ? Text() : ContenidoDe(*front)};
+            .Contenido = front == nullptr ? Text() : ContenidoDe(*front),
+            .Indicación = z.lblMenComienzo.Visible ? z.lblMenComienzo.Caption : Text()};
 }
 
 /// The outcome of a letter or of what else has changed the message; a miss names the letter and what is left.
@@ -60,6 +61,7 @@ Text Voz::Novedades(const Dicho& now) const {
     }
     if (sameWord && now.Tablero != dicho.Tablero && !z.fFinPartida) voz::Añadir(said, now.Tablero + u".");
     if (now.Contenido != dicho.Contenido || now.Ventana != dicho.Ventana) voz::Añadir(said, now.Contenido);
+    if (now.Indicación != dicho.Indicación) voz::Añadir(said, now.Indicación);
     if (!sameWord && now.Palabra != 0) {
         voz::Añadir(said, voz::Palabra(z) + u" " + voz::Contar(z.LargoPalabra, u"letra", u"letras") + u": " +
                               now.Tablero + u".");

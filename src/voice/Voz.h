@@ -32,6 +32,7 @@ private:
         bool Error = false;
         const Form* Ventana = nullptr;
         Text Contenido;
+        Text Indicación;
     };
     [[nodiscard]] Dicho Ahora() const;
     [[nodiscard]] Text Novedades(const Dicho& now) const;
