@@ -1,6 +1,7 @@
 #include "desktop/TextBoxView.h"
 
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QValidator>
 #include <algorithm>
 
@@ -67,7 +68,8 @@ TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& clie
     new BoxClicks(widget_, toolkit.Screen, element);
     widget_.setValidator(new BoxValidator(element, &widget_));
     if (element.Password) widget_.setStyleSheet("lineedit-password-character: 42");  // "*"
-    QObject::connect(&widget_, &QLineEdit::textEdited, &widget_,
+    // Also what a reader or a dictation puts into the box, which is no editing for the toolkit.
+    QObject::connect(&widget_, &QLineEdit::textChanged, &widget_,
                      [this](const QString& text) { toolkit_.Screen.Type(element_, FromQt(text)); });
 }
 
@@ -84,6 +86,7 @@ void TextBoxView::Apply(const TextBoxLook& look) {
     widget_.setReadOnly(look.Locked);
     widget_.setEnabled(look.Enabled);
     const QString text = ToQt(look.Text);
+    const QSignalBlocker silent(widget_);
     if (text != widget_.text()) widget_.setText(text);
 }
 

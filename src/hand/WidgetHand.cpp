@@ -97,21 +97,11 @@ KeyPress PressOf(const Key& key) {
 
 }  // namespace
 
-/// Windows that have closed are gone before the next deed, unless their own event is still on its way.
-class WidgetHand::Deed {
-public:
-    explicit Deed(WidgetHand& hand) : hand_(hand) {
-        if (hand_.depth_ == 0) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        Settle(hand_.display_);
-        ++hand_.depth_;
-    }
-    ~Deed() { --hand_.depth_; }
-    Deed(const Deed&) = delete;
-    Deed& operator=(const Deed&) = delete;
-
-private:
-    WidgetHand& hand_;
-};
+WidgetHand::Deed::Deed(WidgetHand& hand) : hand_(hand) {
+    if (hand_.depth_ == 0) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Settle(hand_.display_);
+    ++hand_.depth_;
+}
 
 QWidget* WidgetHand::WidgetOf(const Control& control) const {
     return FindWidget(display_, control);
@@ -147,7 +137,7 @@ Refusal WidgetHand::Click(Control& control) {
     const Refusal state = screen_.Reach(control);
     QWidget* const widget = WidgetOf(control);
     if (control.kind == Kind::Menu) {
-        Click(static_cast<Menu&>(control));
+        ClickEntry(static_cast<Menu&>(control));
     } else if (widget == nullptr) {
         // A timer, or a button that only its key reaches.
         return screen_.Click(control);
@@ -160,7 +150,7 @@ Refusal WidgetHand::Click(Control& control) {
 }
 
 /// The menu opens and the entry is clicked in it. What does not close a menu is left by closing it.
-void WidgetHand::Click(Menu& entry) {
+void WidgetHand::ClickEntry(Menu& entry) {
     QAction* const opener = FindAction(display_, entry.Parent == nullptr ? entry : *entry.Parent);
     auto* const bar = display_.WindowOf(entry.Owner)->findChild<QMenuBar*>();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(opener).center());

@@ -20,14 +20,26 @@ public:
     Refusal Select(ListBox& list, int index) override;
     Refusal Close() override;
 
-private:
-    /// A deed that is being done, which may have others in it.
-    class Deed;
+protected:
+    /// A deed that is being done, which may have others in it. Windows that have closed are gone before the next deed,
+    /// unless their own event is still on its way.
+    class Deed {
+    public:
+        explicit Deed(WidgetHand& hand);
+        ~Deed() { --hand_.depth_; }
+        Deed(const Deed&) = delete;
+        Deed& operator=(const Deed&) = delete;
+
+    private:
+        WidgetHand& hand_;
+    };
 
     [[nodiscard]] Refusal Reach(const Form& form) const;
     [[nodiscard]] Refusal Reach(const Control& control) const;
     [[nodiscard]] QWidget* WidgetOf(const Control& control) const;
-    void Click(Menu& entry);
+
+private:
+    void ClickEntry(Menu& entry);
     void SendKey(const Key& key) const;
 
     Screen& screen_;
