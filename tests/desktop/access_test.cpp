@@ -3,6 +3,8 @@
 #include "desktop/Access.h"
 
 #include <QAccessible>
+#include <QPainter>
+#include <QPicture>
 #include <gtest/gtest.h>
 
 #include "Rig.h"
@@ -96,6 +98,16 @@ TEST_F(Access, TheKeyboardReachesAllThatAnswersAClick) {
     for (int i = 1; i <= 6; ++i) {
         EXPECT_EQ(seen.pixel(hero.left() - i, hero.center().y()) & 0xFFFFFFU, i <= 3 ? 0xFFFFFFU : 0U) << i;
     }
+    EXPECT_TRUE(rig.Widget(form, "ring").isVisible());
+    QPicture page;
+    rig.Widget(form).render(&page);
+    QImage printed(seen.size(), QImage::Format_RGB32);
+    printed.fill(Qt::blue);
+    QPainter painter(&printed);
+    painter.scale(static_cast<double>(page.logicalDpiX()) / printed.logicalDpiX(),
+                  static_cast<double>(page.logicalDpiY()) / printed.logicalDpiY());
+    painter.drawPicture(0, 0, page);
+    EXPECT_EQ(printed.pixel(hero.left() - 5, hero.center().y()) & 0xFFFFFFU, 0xFFFFFFU) << "a page shows no ring";
 }
 
 TEST_F(Access, AScreenReaderMeetsWhatIsSeenByItsName) {
