@@ -31,8 +31,9 @@ Sizing::Sizing(Scale& scale) : scale_(scale) {
 
 void Sizing::Recall() {
     const QSettings stored = Stored();
-    const double factor = stored.value("factor", scale_.Factor()).toDouble();
-    scale_ = Smaller(scale_, Scale(std::max(factor, Scale::kLeast)));
+    const double factor = stored.value("factor").toDouble();
+    const bool isFactor = factor >= Scale::kLeast && factor <= Scale::kLargest;
+    if (isFactor) scale_ = Smaller(scale_, Scale(factor));
     state_ = Qt::WindowStates(stored.value("estado").toInt()) & kFilling;
 }
 

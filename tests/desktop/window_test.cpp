@@ -318,6 +318,17 @@ TEST_F(Sizes, WhatTheContentCannotFillIsBlack) {
     EXPECT_EQ(game.window->size(), Scale(1.5).Size(kDesign));
 }
 
+TEST_F(Sizes, WhatIsNoFactorIsLeftAlone) {
+    for (const char* factor : {"nan", "-1", "1e9", "0.1", "grande", ""}) {
+        QFile stored("ventana.ini");
+        ASSERT_TRUE(stored.open(QIODevice::WriteOnly));
+        stored.write(QByteArray("[General]\nestado=77\nfactor=") + factor + "\n");
+        stored.close();
+        Opened game(main);
+        EXPECT_EQ(game.Factor(), 1) << factor;
+    }
+}
+
 TEST_F(Sizes, WhatThePlayerChoseIsThereAgain) {
     {
         Opened game(main);
