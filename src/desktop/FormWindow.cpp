@@ -119,7 +119,7 @@ void FormWindow::Arrange() {
     const QSize content = scale.Size({form_.Width, form_.Height});
     const int top = all.height() - content.height();
     if (!IsMain()) setFixedSize(all);
-    if (menu_) menu_->Bar().setGeometry(0, 0, width(), top);
+    if (menu_) menu_->SetSize({width(), top});
     client_.setGeometry(
         QRect(QPoint(qMax(0, width() - all.width()) / 2, top + qMax(0, height() - all.height()) / 2), content));
 }

@@ -1,7 +1,9 @@
 #include "desktop/MenuView.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/Strings.h"
 
@@ -19,8 +21,16 @@ QString ShortcutText(const Key& key) {
 
 }  // namespace
 
-MenuView::MenuView(Screen& screen, Form& form, QWidget& window) : screen_(screen), bar_(*new QMenuBar(&window)) {
+QSize BarStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                 const QWidget* widget) const {
+    const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
+    return type == CT_MenuBarItem ? QSize(own.width(), Height) : own;
+}
+
+MenuView::MenuView(Screen& screen, Form& form, QWidget& window)
+    : screen_(screen), bar_(*new QMenuBar(&window)), style_(*new BarStyle(bar_)) {
     bar_.setObjectName("menu");
+    bar_.setStyle(&style_);
     for (Menu* menu : form.Menus()) AddEntry(*menu);
     Refresh();
 }
@@ -57,6 +67,13 @@ void MenuView::Show(const Entry& entry) {
     entry.action->setCheckable(look.Checked);
     entry.action->setChecked(look.Checked);
     entry.action->setEnabled(look.Enabled);
+}
+
+void MenuView::SetSize(QSize size) {
+    bar_.setGeometry(QRect(QPoint(), size));
+    if (std::exchange(style_.Height, size.height()) == size.height()) return;
+    QEvent changed(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&bar_, &changed);
 }
 
 void MenuView::Refresh() {

@@ -2,12 +2,25 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <optional>
 #include <vector>
 
 #include "platform/Screen.h"
 
 namespace platform::desktop {
+
+/// The look of a menu bar whose entries fill it, however high it is.
+class BarStyle : public QProxyStyle {
+public:
+    /// The bar that it belongs to.
+    explicit BarStyle(QMenuBar& bar) : QProxyStyle("fusion") { setParent(&bar); }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+
+    int Height = 0;  ///< pixels
+};
 
 /// The menu bar of a form. Shortcuts are shown and not taken: keys go by the rules of the screen. Check marks show the
 /// state of the entries and never change by a click.
@@ -19,6 +32,8 @@ public:
     /// Shows what has changed since the last time.
     void Refresh();
     [[nodiscard]] QMenuBar& Bar() const { return bar_; }
+    /// Gives the bar its place at the top of its window, in pixels.
+    void SetSize(QSize size);
 
 private:
     struct Entry {
@@ -32,6 +47,7 @@ private:
 
     Screen& screen_;
     QMenuBar& bar_;
+    BarStyle& style_;
     std::vector<Entry> entries_;
 };
 
