@@ -3,9 +3,9 @@
 #include <QPainter>
 
 #include "desktop/Colors.h"
-#include "desktop/Contrast.h"
 #include "desktop/Strings.h"
 #include "desktop/TextLines.h"
+#include "platform/Contrast.h"
 
 namespace platform::desktop {
 
@@ -59,12 +59,10 @@ ButtonView::ButtonView(const Toolkit& toolkit, CommandButton& element, QWidget& 
 
 void ButtonView::Apply(const ButtonLook& look) {
     if (!look.BackColor.IsNone()) {
-        QPalette palette(ToQt(look.BackColor));
-        if (toolkit_.Wishes.HighContrast) {
-            const Ink ink = Readable({ToQt(look.BackColor), palette.color(QPalette::ButtonText)});
-            palette = QPalette(ink.Ground);
-            palette.setColor(QPalette::ButtonText, ink.Letters);
-        }
+        const Ink design{look.BackColor, Black};
+        const Ink ink = toolkit_.Wishes.HighContrast ? Readable(design) : design;
+        QPalette palette(ToQt(ink.Ground));
+        palette.setColor(QPalette::Active, QPalette::ButtonText, ToQt(ink.Letters));
         widget_.setPalette(palette);
     }
     const QString caption = ToQt(look.Caption);

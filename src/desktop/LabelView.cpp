@@ -8,20 +8,22 @@
 namespace platform::desktop {
 
 void LabelWidget::SetLook(const LabelLook& look, int lineWidth) {
-    ink_ = {ToQt(look.BackColor), ToQt(look.ForeColor)};
+    SetInk({look.BackColor, look.ForeColor}, look.Snug);
     centred_ = look.Align == Alignment::Centre;
-    snug_ = look.Snug;
     border_ = look.BorderStyle == 0 ? 0 : lineWidth;
-    framed_ = centred_ && (ink_.Ground.isValid() || border_ > 0);
+    framed_ = centred_ && (ground_.isValid() || border_ > 0);
     setTextFormat(Qt::PlainText);
     setText(ToQt(look.Caption));
     update();
 }
 
-void LabelWidget::SetInk(const Ink& ink, bool isPlate) {
-    if (ink == ink_ && isPlate == snug_) return;
-    ink_ = ink;
-    snug_ = isPlate;
+void LabelWidget::SetInk(const Ink& ink, bool isSnug) {
+    const QColor ground = ToQt(ink.Ground);
+    const QColor letters = ToQt(ink.Letters);
+    if (ground == ground_ && letters == letters_ && isSnug == snug_) return;
+    ground_ = ground;
+    letters_ = letters;
+    snug_ = isSnug;
     update();
 }
 
@@ -61,8 +63,8 @@ QMargins LabelWidget::Overhang() const {
 
 void LabelWidget::PaintBorder(QPainter& painter) const {
     // Sunken into its own ground; a frame around something else is plain.
-    const QColor dark = ink_.Ground.isValid() ? ink_.Ground.darker(250) : QColor(Qt::black);
-    const QColor bright = ink_.Ground.isValid() ? ink_.Ground.lighter(160) : dark;
+    const QColor dark = ground_.isValid() ? ground_.darker(250) : QColor(Qt::black);
+    const QColor bright = ground_.isValid() ? ground_.lighter(160) : dark;
     const QRect box = contentsRect();
     const int line = border_;
     painter.fillRect(box.left(), box.bottom() + 1 - line, box.width(), line, bright);
@@ -82,9 +84,9 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const TextLines lines = Lines();
     const QPoint corner(TextBox().left(), TextTop(lines));
-    if (ink_.Ground.isValid()) painter.fillRect(snug_ ? PlateOf(lines, corner) : QRectF(contentsRect()), ink_.Ground);
+    if (ground_.isValid()) painter.fillRect(snug_ ? PlateOf(lines, corner) : QRectF(contentsRect()), ground_);
     if (border_ > 0) PaintBorder(painter);
-    painter.setPen(ink_.Letters);
+    painter.setPen(letters_);
     lines.Draw(painter, corner, centred_);
 }
 
@@ -124,13 +126,8 @@ void LabelView::SetFontSize(int pixels) {
 }
 
 void LabelView::RaiseContrast() {
-    const Ink design{ToQt(element_.BackColor), ToQt(element_.ForeColor)};
-    const QColor behind = design.Ground.isValid() ? design.Ground : GroundBehind(element_);
-    const Ink seen = Readable({behind, design.Letters});
-    // What stands well on the ground behind it needs none of its own.
-    const bool isClear = !design.Ground.isValid() && seen.Ground == behind;
-    const bool isPlate = element_.Snug || !design.Ground.isValid();
-    widget_.SetInk({isClear ? QColor() : seen.Ground, seen.Letters}, isPlate);
+    const ReadableLabel readable = Readable(element_);
+    widget_.SetInk(readable.Ink, readable.Snug);
 }
 
 void LabelView::SetOverhang() {

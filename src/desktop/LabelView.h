@@ -2,9 +2,9 @@
 
 #include <QLabel>
 
-#include "desktop/Contrast.h"
 #include "desktop/TextLines.h"
 #include "desktop/View.h"
+#include "platform/Contrast.h"
 
 namespace platform::desktop {
 
@@ -16,8 +16,8 @@ public:
 
     /// `lineWidth` is that of the border in pixels.
     void SetLook(const LabelLook& look, int lineWidth);
-    /// Other colours than those of the look. `isPlate`: the ground lies behind the text alone.
-    void SetInk(const Ink& ink, bool isPlate);
+    /// Other colours than those of the look. `isSnug`: the ground lies behind the text alone.
+    void SetInk(const Ink& ink, bool isSnug);
     /// The part of the box that is the text's, and the text in it.
     [[nodiscard]] QRect TextBox() const;
     [[nodiscard]] TextLines Lines() const { return {text(), font(), TextBox().width()}; }
@@ -33,7 +33,8 @@ private:
     [[nodiscard]] QRectF PlateOf(const TextLines& lines, QPointF corner) const;
     void PaintBorder(QPainter& painter) const;
 
-    Ink ink_;
+    QColor ground_;
+    QColor letters_;
     bool centred_ = false;
     bool snug_ = false;
     bool framed_ = false;

@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "desktop/Colors.h"
-#include "desktop/Contrast.h"
 #include "desktop/Strings.h"
+#include "platform/Contrast.h"
 
 namespace platform::desktop {
 
@@ -74,11 +74,11 @@ TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& clie
 }
 
 void TextBoxView::Apply(const TextBoxLook& look) {
-    const Ink design{ToQt(look.BackColor), ToQt(look.ForeColor)};
+    const Ink design{look.BackColor, look.ForeColor};
     const Ink ink = toolkit_.Wishes.HighContrast ? Readable(design) : design;
     QPalette palette = widget_.palette();
-    palette.setColor(QPalette::Base, ink.Ground);
-    palette.setColor(QPalette::Text, ink.Letters);
+    palette.setColor(QPalette::Base, ToQt(ink.Ground));
+    palette.setColor(QPalette::Text, ToQt(ink.Letters));
     widget_.setPalette(palette);
     widget_.setFont(toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold));
     widget_.setAlignment(Qt::AlignVCenter | (look.Align == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
