@@ -64,7 +64,10 @@ async function starts(address) {
   }
 }
 
-/** Milliseconds from a key to the frame that shows what it changed: each of many letters of a game. */
+/**
+ * Of each of many letters of a game, in milliseconds: what the key sets going, the drawing of what it changed, and all from the
+ * key to the frame, most of which is the wait for the screen's next beat.
+ */
 async function keys(player) {
   await player.startGame("Ana");
   await player.page.evaluate(() => {
@@ -72,8 +75,12 @@ async function keys(player) {
     addEventListener("keydown", (event) => {
       const before = performance.now();
       requestAnimationFrame(() => {
+        const beat = performance.now();
         const channel = new MessageChannel();
-        channel.port1.onmessage = () => globalThis.spans.push({ work: globalThis.after - before, frame: performance.now() - event.timeStamp });
+        channel.port1.onmessage = () => {
+          const now = performance.now();
+          globalThis.spans.push({ work: globalThis.after - before, drawing: now - beat, frame: now - event.timeStamp });
+        };
         channel.port2.postMessage(0);
       });
     }, { capture: true });
@@ -111,7 +118,8 @@ const { browser, close } = await launch();
 const player = await Player.enter(browser, server.address, { prepare: fixed(2) });
 console.log("idle at the presentation:", await idle(player));
 const spans = await keys(player);
-console.log("keys, milliseconds of work / to the frame:", spans.map(({ work, frame }) => `${work.toFixed(1)}/${frame.toFixed(1)}`).join(" "));
+const told = spans.map(({ work, drawing, frame }) => [work, drawing, frame].map((span) => span.toFixed(1)).join("/"));
+console.log("keys, milliseconds of work/of drawing/to the frame:", told.join(" "));
 console.log("idle in a word:", await idle(player));
 await close();
 server.close();

@@ -23,9 +23,9 @@ class Element {
   }
 
   show(state, twip) {
-    this.state = state;
-    const { style } = this.node;
     this.node.hidden = !state.visible;
+    if (!state.visible) return;
+    const { style } = this.node;
     style.left = twips(state.left);
     style.top = twips(state.top);
     style.width = twips(state.width);
@@ -94,16 +94,17 @@ class Picture extends Element {
     this.node.title = state.tip;
     this.image.alt = state.spoken;
     const picture = pictureOf(state);
-    if (picture === undefined || !state.visible) return;
+    if (picture === undefined) return;
     const { style } = this.image;
     style.width = this.fills ? "100%" : twips(15 * picture.width);
     style.height = this.fills ? "100%" : twips(15 * picture.height);
     const file = fileOf(picture, twip);
     if (file === this.file) return;
+    if (this.file === undefined) this.image.src = file;
     this.file = file;
     // The last picture stays until the new one can be shown.
     available(picture, file).then((found) => {
-      if (this.file === file) this.image.src = found;
+      if (this.file === file && this.image.getAttribute("src") !== found) this.image.src = found;
     });
   }
 }
@@ -141,12 +142,13 @@ class Line extends Element {
 
 class Button extends Element {
   constructor(state) {
-    super(make("button", null, { className: "button", type: "button", tabIndex: state.tab === 0 ? -1 : 0 }), state);
+    super(make("button", null, { className: "button", type: "button" }), state);
     this.text = make("span", this.node, { className: "text" });
   }
 
   apply(state) {
     const { node } = this;
+    node.tabIndex = state.tab === 0 ? -1 : 0;
     node.disabled = !state.enabled;
     node.classList.toggle("default", state.default);
     if (state.back !== null) node.style.backgroundColor = state.back;

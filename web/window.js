@@ -19,6 +19,7 @@ export class Window {
   #twip = DESIGN_TWIP;
   #order = null; // on a small screen
   #form = null;
+  #isOpen = false;
   #isLevel = true;
   #focused = "";
   #finger = 0;
@@ -39,6 +40,7 @@ export class Window {
 
   /** Lets the player into the window, all of which has been told. */
   open() {
+    this.#isOpen = true;
     this.resize();
     this.takeFocus();
   }
@@ -73,7 +75,9 @@ export class Window {
       this.#elements.set(state.name, element);
       this.client.append(element.node);
     }
-    this.#place(element, state);
+    element.told = state;
+    if (!this.#isOpen) return;
+    this.#place(element);
     if (state.kind === "Label") this.#isLevel = false;
   }
 
@@ -81,7 +85,7 @@ export class Window {
   levelTexts() {
     if (this.#isLevel) return;
     this.#isLevel = true;
-    const labels = [...this.#elements.values()].filter(({ told }) => told.kind === "Label" && told.visible);
+    const labels = [...this.#elements.values()].filter(({ told, node }) => told.kind === "Label" && !node.hidden);
     const least = new Map();
     for (const { family, needed } of labels) least.set(family, Math.min(needed, least.get(family) ?? needed));
     for (const label of labels) label.level(least.get(label.family));
@@ -128,7 +132,7 @@ export class Window {
 
   /** All windows grow with the page as the main one does, but none is made smaller than it was designed, or than fingers ask, if it fits. */
   resize() {
-    if (this.#form === null) return;
+    if (!this.#isOpen) return;
     const bar = this.menus?.node ?? this.title.parentElement;
     const room = { width: innerWidth, height: innerHeight - bar.offsetHeight };
     this.#order = narrowOrder(this.#form, room);
@@ -167,7 +171,7 @@ export class Window {
     const { width, height } = this.#order ?? this.#form;
     this.client.style.width = twips(width);
     this.client.style.height = twips(height);
-    for (const element of this.#elements.values()) this.#place(element, element.told);
+    for (const element of this.#elements.values()) this.#place(element);
     this.#isLevel = false;
     this.levelTexts();
   }
@@ -180,17 +184,17 @@ export class Window {
     return this.modal && length > MUCH ? READABLE / Math.min(...small.map(({ size }) => size)) : 0;
   }
 
-  #place(element, state) {
-    element.told = state;
-    element.show(this.#order?.place(state) ?? state, this.#twip);
-    element.node.dataset.clicks = String(state.clicks);
+  #place(element) {
+    element.show(this.#order?.place(element.told) ?? element.told, this.#twip);
   }
 
   #showGround() {
     const picture = pictureNamed(this.#form.background);
     if (!picture) return;
     const show = (file) => (this.client.style.backgroundImage = `url("${file}")`);
-    available(picture, fileOf(picture, this.#twip)).then(show);
+    const file = fileOf(picture, this.#twip);
+    if (this.client.style.backgroundImage === "") show(file);
+    available(picture, file).then(show);
   }
 
   #makeTitle() {

@@ -42,10 +42,6 @@ Moment Now() {
     return Moment(static_cast<std::int64_t>(page_now()));
 }
 
-void PageDisplay::Add(const std::string& object) {
-    message_.append(message_.empty() ? "" : ",").append(object);
-}
-
 void PageDisplay::Show() {
     TellChanges();
     const std::string list = "[" + message_ + "]";
@@ -54,18 +50,17 @@ void PageDisplay::Show() {
 }
 
 void PageDisplay::Tell(const std::string& object) {
-    TellChanges();
-    Add(object);
+    message_.append(message_.empty() ? "" : ",").append(object);
 }
 
 void PageDisplay::Opened(Form& form, bool modal) {
     windows_[&form] = {};
-    Add(Json("open").Text("form", form.Name).Flag("modal", modal).Done());
+    Tell(Json("open").Text("form", form.Name).Flag("modal", modal).Done());
 }
 
 void PageDisplay::Closed(Form& form) {
     windows_.erase(&form);
-    Add(Json("close").Text("form", form.Name).Done());
+    Tell(Json("close").Text("form", form.Name).Done());
 }
 
 void PageDisplay::End() {
@@ -120,7 +115,7 @@ void PageDisplay::TakeInput(const Event& event, Form& form) {
     if (what == "focus") screen_->Focus(*control);
     if (what == "type" && control->kind == Kind::TextBox) {
         screen_->Type(static_cast<TextBox&>(*control), FromUtf8(Part(event, 3)));
-        windows_[&form].states.erase(control->FullName());  // what is in the box is not what the page was told
+        windows_[&form].states.erase(control);  // what is in the box is not what the page was told
     }
     if (what == "select" && control->kind == Kind::ListBox) {
         screen_->Select(static_cast<ListBox&>(*control), NumberOf(Part(event, 3)));
@@ -133,7 +128,7 @@ bool PageDisplay::TakeKey(const Event& event) {
                   .Character = static_cast<char16_t>(NumberOf(Part(event, 2))),
                   .Control = Part(event, 3) == "1"};
     const bool isTaken = screen_->Press(key);
-    if (!isTaken) Add(Json("leaveKey").Done());
+    if (!isTaken) Tell(Json("leaveKey").Done());
     return isTaken;
 }
 
@@ -148,39 +143,38 @@ void PageDisplay::TellChanges() {
 }
 
 void PageDisplay::TellChanges(const Form& form, Window& window) {
-    for (const Menu* menu : form.Menus()) TellState(window, menu->FullName(), StateOf(*menu));
-    TellState(window, {}, StateOf(form));
+    for (const Menu* menu : form.Menus()) TellState(window.states[menu], StateOf(*menu));
+    TellState(window.frame, StateOf(form));
     for (const Control* control : form.Controls()) {
-        if (IsSeen(*control)) TellState(window, control->FullName(), StateOf(*control));
+        if (IsSeen(*control)) TellState(window.states[control], StateOf(*control));
     }
     TellLayers(form, window);
     const Control* const focus = form.Focus();
     if (std::exchange(window.focus, focus) == focus) return;
-    Add(Json("focus").Text("form", form.Name).Text("name", focus == nullptr ? "" : focus->FullName()).Done());
+    Tell(Json("focus").Text("form", form.Name).Text("name", focus == nullptr ? "" : focus->FullName()).Done());
 }
 
-void PageDisplay::TellState(Window& window, const std::string& name, std::string state) {
-    std::string& told = window.states[name];
+void PageDisplay::TellState(std::string& told, std::string state) {
     if (told == state) return;
-    Add(state);
+    Tell(state);
     told = std::move(state);
 }
 
 void PageDisplay::TellLayers(const Form& form, Window& window) {
+    const auto controls = form.Controls();
+    std::vector<const Control*> layers(controls.rbegin(), controls.rend());
+    if (window.layers == layers) return;
     std::string names;
-    for (const Control* control : form.Controls()) {
-        names.insert(0, Quoted(control->FullName()) + (names.empty() ? "" : ","));
-    }
-    if (window.layers == names) return;
-    Add(Json("layers").Text("form", form.Name).Raw("names", "[" + names + "]").Done());
-    window.layers = std::move(names);
+    for (const Control* control : layers) names.append(names.empty() ? "" : ",").append(Quoted(control->FullName()));
+    Tell(Json("layers").Text("form", form.Name).Raw("names", "[" + names + "]").Done());
+    window.layers = std::move(layers);
 }
 
 void PageDisplay::TellWake() {
     const auto due = scheduler_.NextDue();
     Json json("wake");
     if (due) json.Number("after", static_cast<long>(std::max<std::int64_t>(0, (*due - Now()).count())));
-    Add(json.Done());
+    Tell(json.Done());
 }
 
 }  // namespace platform::web

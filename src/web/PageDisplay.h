@@ -28,8 +28,10 @@ public:
     [[noreturn]] void End() override;
     [[nodiscard]] std::optional<PictureSize> SizeOf(TextView picture) const override;
 
-    /// Adds an object to the message, behind those that tell what has changed so far.
+    /// Adds an object to the message.
     void Tell(const std::string& object);
+    /// Adds what has changed so far.
+    void TellChanges();
     /// Carries out an event. False: it was a key that the screen leaves to the element that has the focus.
     bool Take(const Event& event);
     /// Tells the page all that has changed.
@@ -42,10 +44,11 @@ public:
     std::function<void()> OnUnsaved;  ///< what was written could not be stored
 
 private:
-    /// What the page was last told of an open form, by the names of its elements.
+    /// What the page was last told of an open form.
     struct Window {
-        std::map<std::string, std::string> states;
-        std::string layers;
+        std::string frame;
+        std::map<const Control*, std::string> states;
+        std::vector<const Control*> layers;
         const Control* focus = nullptr;
     };
 
@@ -53,12 +56,10 @@ private:
     void TakeInput(const Event& event, Form& form);
     bool TakeKey(const Event& event);
     void Tick();
-    void TellChanges();
     void TellChanges(const Form& form, Window& window);
     void TellLayers(const Form& form, Window& window);
     void TellWake();
-    void TellState(Window& window, const std::string& name, std::string state);
-    void Add(const std::string& object);
+    void TellState(std::string& told, std::string state);
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;

@@ -39,16 +39,19 @@ void PageDialogs::Beep() {
 }
 
 void PageDialogs::MsgBox(TextView text, TextView title) {
+    display_.TellChanges();
     display_.Tell(Json("message").Text("text", text).Text("title", title).Done());
     display_.WaitForAnswer();
 }
 
 bool PagePrinter::ShowDialog() {
+    display_.TellChanges();
     display_.Tell(Json("askPrinter").Done());
     return display_.WaitForAnswer();
 }
 
 void PagePrinter::PrintForm(const Form& form) {
+    display_.TellChanges();
     display_.Tell(Json("print").Text("form", form.Name).Done());
 }
 

@@ -114,11 +114,12 @@ std::string StateOf(const Control& control) {
     json.Text("form", control.Owner.Name)
         .Text("name", control.FullName())
         .Text("kind", kKinds.at(static_cast<std::size_t>(control.kind)))
-        .Number("left", control.Left)
+        .Flag("visible", control.Visible);
+    if (!control.Visible) return json.Done();
+    json.Number("left", control.Left)
         .Number("top", control.Top)
         .Number("width", control.Width)
         .Number("height", control.Height)
-        .Flag("visible", control.Visible)
         .Flag("clicks", control.Click != nullptr)
         .Number("tab", TabIndexOf(control))
         .Text("spoken", SpokenNameOf(control));

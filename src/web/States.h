@@ -11,7 +11,7 @@ namespace platform::web {
 std::string StateOf(const Form& form);
 
 /// An element: its kind and name, its place, its look, whether it answers clicks, its place in the order of the focus.
-/// Lengths are twips, those of letters too.
+/// Lengths are twips, those of letters too. Of a hidden one only that it is hidden, for most are and all are told.
 std::string StateOf(const Control& control);
 
 /// A menu of the bar or an entry of one.
