@@ -115,7 +115,7 @@ Text Entera(const Form& form) {
 
 Text ContenidoDe(const Form& form) {
     Text said;
-    const auto* const whole = std::ranges::find(kReadWhole, form.Name, &Lectura::Form);
+    const auto whole = std::ranges::find(kReadWhole, form.Name, &Lectura::Form);
     if (whole != kReadWhole.end()) {
         said = Entera(form);
         voz::Añadir(said, Text(whole->Añadido));
