@@ -16,6 +16,7 @@
 #include "desktop/Look.h"
 #include "desktop/MediaPlayer.h"
 #include "desktop/SystemServices.h"
+#include "desktop/SystemWishes.h"
 #include "desktop/WindowDisplay.h"
 #include "platform/Generator.h"
 

@@ -10,8 +10,8 @@
 #include "desktop/Pictures.h"
 #include "desktop/Scale.h"
 #include "desktop/Sizing.h"
-#include "desktop/Wishes.h"
 #include "platform/Screen.h"
+#include "platform/Wishes.h"
 
 namespace platform::desktop {
 
@@ -23,7 +23,7 @@ struct Toolkit {
     const desktop::Pictures& Pictures;
     desktop::DoubleClicks& DoubleClicks;
     desktop::Sizing& Sizing;
-    const desktop::Wishes& Wishes;
+    const platform::Wishes& Wishes;
 };
 
 /// Brings the state of one element before the player's eyes, in one widget named like the element.

@@ -1,7 +1,5 @@
 // What a player has asked of his system: letters that stand out, nothing that blinks.
 
-#include "desktop/Wishes.h"
-
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -14,6 +12,7 @@
 #include "Platform.h"
 #include "Rig.h"
 #include "desktop/LabelView.h"
+#include "desktop/SystemWishes.h"
 #include "headless/MemoryFiles.h"
 #include "platform/Contrast.h"
 #include "shell/Juego.h"

@@ -3,15 +3,9 @@
 #include <QObject>
 #include <functional>
 
+#include "platform/Wishes.h"
+
 namespace platform::desktop {
-
-/// What a player has asked of his system for all programs.
-struct Wishes {
-    bool HighContrast = false;  ///< letters that stand out clearly from their ground
-    bool Stillness = false;     ///< nothing blinks
-
-    bool operator==(const Wishes&) const = default;
-};
 
 /// Asks the system for the player's wishes: on Windows its settings, elsewhere the desktop's portal.
 class SystemWishes : public QObject {

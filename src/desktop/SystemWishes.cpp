@@ -1,4 +1,4 @@
-#include "desktop/Wishes.h"
+#include "desktop/SystemWishes.h"
 
 #include <QGuiApplication>
 #include <utility>
