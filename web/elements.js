@@ -30,6 +30,7 @@ class Element {
     style.top = twips(state.top);
     style.width = twips(state.width);
     style.height = twips(state.height);
+    this.node.classList.toggle("marked", state.marked === true);
     this.apply(state, twip);
   }
 
@@ -58,7 +59,7 @@ class Label extends Element {
     }
     node.title = state.tip;
     const box = { width: state.width - 2 * edge, height: state.height - 2 * edge };
-    const framed = state.centred && (state.back !== null || state.border);
+    const framed = state.centred && ((state.back !== null && !state.snug) || state.border);
     this.place = (size) => placeText(this.text, state.caption, state, box, framed, size);
     this.needed = this.size = this.place(state.size);
     this.family = [state.font, state.size, state.back, state.fore, state.centred, state.border].join();

@@ -3,7 +3,7 @@
 import { pictureSize } from "./pictures.js";
 
 /** Events behind which there is no player: they do not try again to store what could not be stored. */
-const OWN_EVENTS = ["tick", "unsaved"];
+const OWN_EVENTS = ["tick", "unsaved", "wishes"];
 
 export class Loop {
   #program;

@@ -16,6 +16,9 @@ const HEAD_START = 500;
 /** A device that is played with fingers alone. */
 const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
 
+/** What a player has asked of the system for all programs: letters that stand out, nothing that blinks. */
+const WISHES = [matchMedia("(prefers-contrast: more)"), matchMedia("(prefers-reduced-motion: reduce)")];
+
 class Page {
   #windows = new Map();
   #keyboard = false; // to be opened when the main window is in front
@@ -40,6 +43,13 @@ class Page {
       await showHelp(this.storage);
       this.front?.takeFocus();
     });
+  }
+
+  /** Tells the program the wishes, and each change of them. */
+  heedWishes() {
+    const tell = () => this.loop.send("wishes", ...WISHES.map(({ matches }) => (matches ? "1" : "0")));
+    for (const wish of WISHES) wish.addEventListener("change", tell);
+    if (WISHES.some(({ matches }) => matches)) tell();
   }
 
   #show(message) {
@@ -163,6 +173,7 @@ async function start() {
   document.getElementById("loading")?.remove();
   page.listen();
   page.loop.start(program);
+  page.heedWishes();
   if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
   keepForLater(() => page.front?.twip ?? 1 / 15);
 }

@@ -83,7 +83,8 @@ bool PageDisplay::WaitForAnswer() {
     while (true) {
         const Event event = NextEvent();
         if (event.front() == "answer") return Part(event, 1) == "1";
-        if (event.front() == "tick" || event.front() == "unsaved") Take(event);
+        const std::string& what = event.front();
+        if (what == "tick" || what == "unsaved" || what == "wishes") Take(event);
     }
 }
 
@@ -99,6 +100,7 @@ bool PageDisplay::Take(const Event& event) {
     if (what == "key") return TakeKey(event);
     if (what == "tick") Tick();
     if (what == "unsaved" && OnUnsaved) OnUnsaved();
+    if (what == "wishes") Heed({.HighContrast = Part(event, 1) == "1", .Stillness = Part(event, 2) == "1"});
     const auto& shown = screen_->Shown();
     const auto form = std::ranges::find(shown, Part(event, 1), &Form::Name);
     if (form != shown.end()) TakeInput(event, **form);
@@ -120,6 +122,11 @@ void PageDisplay::TakeInput(const Event& event, Form& form) {
     if (what == "select" && control->kind == Kind::ListBox) {
         screen_->Select(static_cast<ListBox&>(*control), NumberOf(Part(event, 3)));
     }
+}
+
+void PageDisplay::Heed(const Wishes& wishes) {
+    wishes_ = wishes;
+    screen_->KeepStill(wishes.Stillness);
 }
 
 /// A key that the screen leaves goes on to the element that has the focus, on the page.
@@ -146,7 +153,8 @@ void PageDisplay::TellChanges(const Form& form, Window& window) {
     for (const Menu* menu : form.Menus()) TellState(window.states[menu], StateOf(*menu));
     TellState(window.frame, StateOf(form));
     for (const Control* control : form.Controls()) {
-        if (IsSeen(*control)) TellState(window.states[control], StateOf(*control));
+        if (IsSeen(*control))
+            TellState(window.states[control], StateOf(*control, wishes_, screen_->IsMarked(*control)));
     }
     TellLayers(form, window);
     const Control* const focus = form.Focus();

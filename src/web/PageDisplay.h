@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Screen.h"
+#include "platform/Wishes.h"
 
 namespace platform::web {
 
@@ -55,6 +56,7 @@ private:
     Event NextEvent();
     void TakeInput(const Event& event, Form& form);
     bool TakeKey(const Event& event);
+    void Heed(const Wishes& wishes);
     void Tick();
     void TellChanges(const Form& form, Window& window);
     void TellLayers(const Form& form, Window& window);
@@ -63,6 +65,7 @@ private:
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;
+    Wishes wishes_;
     std::map<const Form*, Window> windows_;
     std::string message_;  // objects, divided by commas
 };

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/Contrast.h"
 #include "web/Json.h"
 
 namespace platform::web {
@@ -70,9 +71,21 @@ void Put(Json& json, const ListBoxLook& look) {
     PutFont(json, look);
 }
 
-void PutLook(Json& json, const Control& control) {
+LabelLook ReadableLook(const Label& label) {
+    LabelLook look = label;
+    const ReadableLabel readable = Readable(label);
+    look.BackColor = readable.Ink.Ground;
+    look.ForeColor = readable.Ink.Letters;
+    look.Snug = readable.Snug;
+    return look;
+}
+
+void PutLook(Json& json, const Control& control, bool highContrast) {
     switch (control.kind) {
-        case Kind::Label: return Put(json, static_cast<const Label&>(control));
+        case Kind::Label: {
+            const auto& label = static_cast<const Label&>(control);
+            return Put(json, highContrast ? ReadableLook(label) : LabelLook(label));
+        }
         case Kind::PictureBox: return Put(json, static_cast<const PictureBox&>(control));
         case Kind::Image: return Put(json, static_cast<const Image&>(control));
         case Kind::Shape: return Put(json, static_cast<const Shape&>(control));
@@ -109,7 +122,7 @@ std::string StateOf(const Form& form) {
         .Done();
 }
 
-std::string StateOf(const Control& control) {
+std::string StateOf(const Control& control, const Wishes& wishes, bool isMarked) {
     Json json("element");
     json.Text("form", control.Owner.Name)
         .Text("name", control.FullName())
@@ -123,7 +136,8 @@ std::string StateOf(const Control& control) {
         .Flag("clicks", control.Click != nullptr)
         .Number("tab", TabIndexOf(control))
         .Text("spoken", SpokenNameOf(control));
-    PutLook(json, control);
+    if (isMarked) json.Flag("marked", true);
+    PutLook(json, control, wishes.HighContrast);
     return json.Done();
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/Form.h"
+#include "platform/Wishes.h"
 
 /// The states of windows and elements as the page takes them, each one object in JSON. Equal states give equal texts.
 namespace platform::web {
@@ -10,9 +11,10 @@ namespace platform::web {
 /// The frame of a form: its caption, its size, its ground.
 std::string StateOf(const Form& form);
 
-/// An element: its kind and name, its place, its look, whether it answers clicks, its place in the order of the focus.
-/// Lengths are twips, those of letters too. Of a hidden one only that it is hidden, for most are and all are told.
-std::string StateOf(const Control& control);
+/// An element as a player with these wishes is to see it: its kind and name, its place, its look, whether it answers
+/// clicks, its place in the order of the focus. Lengths are twips, those of letters too. Of a hidden one only that it
+/// is hidden, for most are and all are told. `isMarked`: a mark tells what its blinking would have told.
+std::string StateOf(const Control& control, const Wishes& wishes, bool isMarked);
 
 /// A menu of the bar or an entry of one.
 std::string StateOf(const Menu& menu);
