@@ -147,6 +147,13 @@ function unfitForFingers(page) {
   });
 }
 
+const WINDOWS = [
+  ["mnuAyuda", "mnuNormas", "frmNormas"],
+  ["mnuAyuda", "mnuAcerca", "frmAcerca"],
+  ["mnuJuego", "mnuÚltimas", "frmÚltimas"],
+  ["mnuCuadros", "mnuCasteHonor", "frmCuadro"],
+];
+
 test("a game by touch on a small phone held upright, to the fall", async () => {
   const player = await enter({ viewport: PHONE, prepare: fixed(WINNING_SEED) });
   const fits = async (where) => assert.deepEqual(await unfitForFingers(player.page), [], where);
@@ -155,12 +162,7 @@ test("a game by touch on a small phone held upright, to the fall", async () => {
     await player.page.tap(`[data-menu="${entry}"]`);
   };
   await player.page.tap("#frmPresenta .client");
-  for (const [menu, entry, form] of [
-    ["mnuAyuda", "mnuNormas", "frmNormas"],
-    ["mnuAyuda", "mnuAcerca", "frmAcerca"],
-    ["mnuJuego", "mnuÚltimas", "frmÚltimas"],
-    ["mnuCuadros", "mnuCasteHonor", "frmCuadro"],
-  ]) {
+  for (const [menu, entry, form] of WINDOWS) {
     await tapMenu(menu, entry);
     await player.front(form);
     await player.page.$eval(`#${form}`, (node) => (node.scrollTop = node.scrollHeight));
@@ -422,6 +424,16 @@ test("people who hear or cannot use a mouse: no serious findings, names, sentenc
   await player.press("F10", "ArrowLeft", "ArrowDown", "Enter");
   await player.front("frmNormas");
   await findings("rules");
+  for (const [menu, entry, form] of WINDOWS.slice(1)) {
+    await player.press("Escape");
+    await player.menu(menu, entry);
+    await player.front(form);
+    await findings(form);
+  }
+  await player.press("Escape");
+  await player.page.click("#help");
+  await player.page.waitForSelector("dialog.message");
+  await findings("help");
 });
 
 /** How well the letters of each text in front stand out from the colour behind their first line, at its middle. */
