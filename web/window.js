@@ -130,7 +130,10 @@ export class Window {
     return this.#elements.get(name)?.told;
   }
 
-  /** All windows grow with the page as the main one does, but none is made smaller than it was designed, or than fingers ask, if it fits. */
+  /**
+   * All windows grow with the page as the main one does, but none is made smaller than it was designed, or than fingers ask,
+   * if it fits.
+   */
   resize() {
     if (!this.#isOpen) return;
     const bar = this.menus?.node ?? this.title.parentElement;

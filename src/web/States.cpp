@@ -54,7 +54,6 @@ void Put(Json& json, const ButtonLook& look) {
 
 void Put(Json& json, const TextBoxLook& look) {
     json.Text("text", look.Text)
-        .Number("maxLength", look.MaxLength)
         .Flag("password", look.Password)
         .Flag("locked", look.Locked)
         .Flag("enabled", look.Enabled)
@@ -114,11 +113,8 @@ std::string StateOf(const Form& form) {
         .Text("caption", form.Caption)
         .Number("width", form.Width)
         .Number("height", form.Height)
-        .Number("left", form.Left)
-        .Number("top", form.Top)
         .Colour("back", form.BackColor)
         .Text("background", form.Background)
-        .Text("icon", form.Icon)
         .Done();
 }
 
