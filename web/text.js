@@ -8,6 +8,8 @@ const SPACING = { sans: -0.012 };
 const LINE_HEIGHT = { sans: 1.2 };
 
 const PIXEL = 15; // twips
+/** Texts are measured in letters of one size, for a browser takes its time over the first of each. */
+const MEASURED = 1000;
 
 const pen = document.createElement("canvas").getContext("2d");
 
@@ -15,13 +17,26 @@ function family(look) {
   return `"${FAMILIES[look.font]}"`;
 }
 
-function setPen(look, size) {
-  pen.font = `${look.bold ? "bold " : ""}${size}px ${family(look)}`;
+function setPen(look) {
+  pen.font = `${look.bold ? "bold " : ""}${MEASURED}px ${family(look)}`;
+}
+
+/** What a text takes in letters of `size`. */
+function measure(text, size) {
+  const found = pen.measureText(text);
+  const scale = size / MEASURED;
+  return {
+    width: found.width * scale,
+    ascent: found.fontBoundingBoxAscent * scale,
+    descent: found.fontBoundingBoxDescent * scale,
+    top: found.actualBoundingBoxAscent * scale,
+    bottom: found.actualBoundingBoxDescent * scale,
+  };
 }
 
 function widthOf(text, look, size) {
   const letters = text.length - text.split(" ").length + 1;
-  return pen.measureText(text).width + (SPACING[look.font] ?? 0) * size * letters;
+  return measure(text, size).width + (SPACING[look.font] ?? 0) * size * letters;
 }
 
 /** "Ctrl + N" is one word for whoever reads it. */
@@ -48,14 +63,14 @@ function brokenLines(text, look, size, width) {
 
 /** The lines of a text in letters of `size`, and whether they fit. A single line may be higher than its box. */
 function layOut(text, look, size, box) {
-  setPen(look, size);
-  const metrics = pen.measureText("Mg");
-  const ink = metrics.fontBoundingBoxAscent + metrics.fontBoundingBoxDescent;
+  setPen(look);
+  const { ascent, descent } = measure("Mg", size);
+  const ink = ascent + descent;
   const height = Math.max(ink, (LINE_HEIGHT[look.font] ?? 0) * size);
   const lines = brokenLines(text, look, size, box.width);
   const width = Math.max(...lines.map((line) => widthOf(line, look, size)));
   const fits = width <= box.width + 1 && (lines.length === 1 || lines.length * height <= box.height);
-  return { size, lines, height, ascent: metrics.fontBoundingBoxAscent + (height - ink) / 2, fits };
+  return { size, lines, height, ascent: ascent + (height - ink) / 2, fits };
 }
 
 /** A text in a box, its letters as much smaller than `size` as it takes, down to half those of its look. */
@@ -76,14 +91,13 @@ function fitted(text, look, box, size) {
 function topOf(layout, framed, box) {
   const { lines, height, ascent, size } = layout;
   if (lines.length > 1) return framed ? Math.max(0, (box.height - lines.length * height) / 2) : 0;
-  const capital = pen.measureText("H").actualBoundingBoxAscent;
-  const top = framed ? (box.height + capital) / 2 - ascent : PIXEL * Math.ceil(ascent / PIXEL) - ascent;
+  const top = framed ? (box.height + measure("H", size).top) / 2 - ascent : PIXEL * Math.ceil(ascent / PIXEL) - ascent;
   if (lines[0].length === 1 && height > box.height) return top;
   if (height <= box.height) return Math.max(0, top);
-  const ink = pen.measureText(lines[0]);
-  const bottom = top + ascent + ink.actualBoundingBoxDescent;
+  const ink = measure(lines[0], size);
+  const bottom = top + ascent + ink.bottom;
   if (bottom > box.height) return top - (bottom - box.height);
-  return Math.max(top, ink.actualBoundingBoxAscent - ascent, -size);
+  return Math.max(top, ink.top - ascent, -size);
 }
 
 const known = new Map();
