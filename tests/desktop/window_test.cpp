@@ -13,6 +13,7 @@
 
 #include "Rig.h"
 #include "desktop/FormPrinter.h"
+#include "desktop/PictureView.h"
 #include "desktop/WindowPlace.h"
 
 namespace platform::desktop {
@@ -285,7 +286,10 @@ struct Opened : Rig {
 };
 
 TEST_F(Sizes, AllWindowsFollowTheMainOne) {
+    const AssetsFrom assets(folder.path());
+    QImage(50, 50, QImage::Format_RGB32).save(folder.filePath("pose.bmp"));
     Sample dialog("Dialog");
+    dialog.OnLoad = [&dialog] { dialog.picHero.Picture = u"pose.bmp"; };
     Opened game(main);
     game.screen.Show(dialog);
     for (const double factor : {0.6, 0.75, 1.0, 1.33, 1.5, 2.0, 2.37, 3.5}) {
@@ -297,6 +301,8 @@ TEST_F(Sizes, AllWindowsFollowTheMainOne) {
             EXPECT_EQ(game.Widget(*form, "lblBack").geometry(), scale.Rect(form->lblBack)) << factor;
             EXPECT_EQ(game.Widget(*form, "txtName").font(), scale.Font(FontName::MSSansSerif, 12, false)) << factor;
         }
+        const auto& picture = static_cast<const PictureWidget&>(game.Widget(dialog, "picHero"));
+        EXPECT_EQ(picture.Pixmap().size(), scale.Size({750, 750})) << factor;
         const auto& bar = game.Widget<QMenuBar>(main, "menu");
         EXPECT_EQ(bar.actionGeometry(bar.actions().first()).height(), bar.height()) << factor;
         EXPECT_LE(bar.fontMetrics().height(), bar.height()) << factor;
@@ -317,6 +323,8 @@ TEST_F(Sizes, WhatTheContentCannotFillIsBlack) {
     EXPECT_EQ(seen.pixel(100, 300) & 0xFFFFFFU, 0x00FF00U);
     Opened::LetGo();
     EXPECT_EQ(game.window->size(), Scale(1.5).Size(kDesign));
+    game.Resize(Scale(1.5).Size(kDesign) + QSize(0, 200));
+    EXPECT_EQ(game.Widget(main).geometry().bottom() + 1, game.window->height() - 100);
 }
 
 TEST_F(Sizes, WhatIsNoFactorIsLeftAlone) {
