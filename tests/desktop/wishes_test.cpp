@@ -37,6 +37,32 @@ TEST(Contrast, MakesAnyLettersReadable) {
     EXPECT_EQ(Readable(good), good);
 }
 
+TEST(Contrast, ALabelGetsAGroundOfItsOwnOnlyOnAPicture) {
+    struct Signs : Form {
+        Signs() : Form("Signs", {.Width = 6000, .Height = 1500, .BackColor = 0x00FF00}) {}
+        Label own{*this, "own", {0, 0, 900, 300}, {.BackColor = White, .ForeColor = 0xFF0000}};
+        Label bare{*this, "bare", {1500, 0, 900, 300}, {}};
+        Label faint{*this, "faint", {3000, 0, 900, 300}, {.ForeColor = 0xFF0000}};
+        Label pictured{*this, "pictured", {4500, 0, 900, 300}, {}};
+        Shape hidden{*this, "hidden", {0, 0, 6000, 300, Hidden}, {.FillColor = 0x000080}};
+        Shape hollow{*this, "hollow", {0, 0, 6000, 300}, {}};
+        Image picture{*this, "picture", {4500, 0, 1500, 1500}, {}};
+    } const form;
+    struct Row {
+        const Label& label;
+        Ink ink;
+        bool snug;
+    };
+    for (const Row& row : std::vector<Row>{{form.own, {White, Black}, false},
+                                           {form.bare, {NoColor, Black}, true},
+                                           {form.faint, {NoColor, Black}, true},
+                                           {form.pictured, {White, Black}, true}}) {
+        const ReadableLabel readable = Readable(row.label);
+        EXPECT_EQ(readable.Ink, row.ink) << row.label.Name;
+        EXPECT_EQ(readable.Snug, row.snug) << row.label.Name;
+    }
+}
+
 Color RgbOf(QRgb pixel) {
     return static_cast<int>(pixel & 0xFFFFFFU);
 }
