@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QPainter>
 #include <QPicture>
 #include <QPrintDialog>
@@ -22,6 +23,20 @@ QString DocumentsFolder() {
     return QFile::exists(documents) ? documents : QDir::homePath();
 }
 
+/// By the system's dialog; where that knows nothing but printers, and there is none, by asking for a file.
+bool Choose(QPrinter& printer, QWidget* owner) {
+#ifdef Q_OS_WIN
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        const QString file = QFileDialog::getSaveFileName(owner, "Imprimir", printer.outputFileName(), "PDF (*.pdf)");
+        printer.setOutputFileName(file);
+        return !file.isEmpty();
+    }
+#endif
+    QPrintDialog dialog(&printer, owner);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    return dialog.exec() == QDialog::Accepted;
+}
+
 }  // namespace
 
 FormPrinter::FormPrinter(WindowDisplay& display) : display_(display) {}
@@ -33,9 +48,7 @@ bool FormPrinter::ShowDialog() {
     FormWindow* const window = display_.FrontWindow();
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     if (window != nullptr) ProposePage(*window, *printer);
-    QPrintDialog dialog(printer.get(), window);
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    if (dialog.exec() != QDialog::Accepted) return false;
+    if (!Choose(*printer, window)) return false;
     printer_ = std::move(printer);
     return true;
 }

@@ -117,6 +117,14 @@ PictureLook StoredLook(const std::string& name) {
 
 }  // namespace
 
+Pictures::Pictures(const Scale& scale) : scale_(scale) {
+#ifdef Q_OS_WIN
+    // The toolkit looks for its modules by regular expression and keeps something for those in the thread, which MinGW
+    // destroys when the thread's memory is gone: no thread that reads a picture and ends may be the first to look.
+    QImageReader::supportedImageFormats();
+#endif
+}
+
 QSize Pictures::SizeOf(TextView file) const {
     return desktop::SizeOf(SourceOf({.Stored = {}, .Picture = Text(file), .ToolTipText = {}}));
 }

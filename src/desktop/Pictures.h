@@ -17,7 +17,7 @@ namespace platform::desktop {
 /// pictures are kept for the next time.
 class Pictures {
 public:
-    explicit Pictures(const Scale& scale) : scale_(scale) {}
+    explicit Pictures(const Scale& scale);
 
     /// The pixels that a picture file has; invalid if it cannot be read.
     [[nodiscard]] QSize SizeOf(TextView file) const;

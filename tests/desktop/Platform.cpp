@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <cstdlib>
+
+#ifndef Q_OS_WIN
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 #include "hand/WidgetHand.h"
 
@@ -27,8 +30,16 @@ headless::Hand& Platform::Hand() const {
     return parts_->hand;
 }
 
-/// The toolkit's own code is not made for being unwound: a process of its own ends.
+/// The toolkit's own code is not made for being unwound: a process of its own ends, where a process can be divided.
 bool Platform::Ends(const std::function<void()>& statement) const {
+#ifdef Q_OS_WIN
+    try {
+        statement();
+    } catch (const headless::Ended&) {
+        return true;
+    }
+    return false;
+#else
     const pid_t child = fork();
     if (child == 0) {
         parts_->headless.SetEnd([] { std::_Exit(EXIT_SUCCESS); });
@@ -38,4 +49,5 @@ bool Platform::Ends(const std::function<void()>& statement) const {
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+#endif
 }
