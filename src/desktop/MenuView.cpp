@@ -1,9 +1,7 @@
 #include "desktop/MenuView.h"
 
-#include <QCoreApplication>
 #include <QMenu>
 #include <algorithm>
-#include <utility>
 
 #include "desktop/Strings.h"
 
@@ -70,10 +68,8 @@ void MenuView::Show(const Entry& entry) {
 }
 
 void MenuView::SetSize(QSize size) {
+    style_.Height = size.height();
     bar_.setGeometry(QRect(QPoint(), size));
-    if (std::exchange(style_.Height, size.height()) == size.height()) return;
-    QEvent changed(QEvent::StyleChange);
-    QCoreApplication::sendEvent(&bar_, &changed);
 }
 
 void MenuView::Refresh() {

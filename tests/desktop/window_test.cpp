@@ -347,7 +347,10 @@ TEST_F(Sizes, WhatThePlayerChoseIsThereAgain) {
     {
         Opened game(main);
         EXPECT_EQ(game.window->size(), Scale(0.8).Size(kDesign));
-        QTest::keyClick(game.window->windowHandle(), Qt::Key_F11);
+        for (const bool repeats : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_F11, Qt::NoModifier, "", repeats);
+            QCoreApplication::sendEvent(&game.Widget(main), &press);
+        }
         QCoreApplication::processEvents();
         EXPECT_EQ(game.window->size(), game.window->screen()->size());
         EXPECT_GT(game.Factor(), 3);

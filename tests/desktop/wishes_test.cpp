@@ -1,6 +1,6 @@
 // What a player has asked of his system: letters that stand out, nothing that blinks.
 
-#include <QtGlobal>
+#include <QApplication>
 #include <gtest/gtest.h>
 #include <map>
 
@@ -91,6 +91,8 @@ TEST(Contrast, OfEveryTextInTheGameIsHighWhereThatIsAskedFor) {
     juego::Juego game{platform.Services().Services()};
     Rig rig{2};
     rig.display.Heed({.HighContrast = true});
+    const QPalette lists = QApplication::palette();
+    EXPECT_GE(ContrastOf(RgbOf(lists.highlight().color().rgb()), RgbOf(lists.highlightedText().color().rgb())), 7);
     int labels = 0;
     for (Form* form : game.Ventanas()) {
         form->OnLoad = nullptr;
@@ -114,6 +116,7 @@ TEST(Contrast, OfEveryTextInTheGameIsHighWhereThatIsAskedFor) {
         rig.screen.Hide(*form);
     }
     EXPECT_GT(labels, 150);
+    rig.display.Heed({});
 }
 
 TEST(Stillness, AMarkTellsWhatBlinkingWouldHaveTold) {
