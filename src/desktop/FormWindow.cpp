@@ -127,8 +127,8 @@ void FormWindow::Arrange() {
 void FormWindow::ShowAnew(const FormWindow& first) {
     for (const auto& [control, view] : views_) view->Forget();
     shown_.reset();
-    if (this != &first) SetPlace(&first);
     Refresh();
+    if (this != &first) SetPlace(&first);
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
