@@ -86,6 +86,7 @@ async function keys(player) {
     }, { capture: true });
     addEventListener("keydown", () => (globalThis.after = performance.now()));
   });
+  await pause(1000); // the window that has closed is drawn over
   for (const letter of "qwkjxzyqwert") {
     await player.press(letter);
     await pause(150);
