@@ -14,6 +14,7 @@
 #include "desktop/FormPrinter.h"
 #include "desktop/Heartbeat.h"
 #include "desktop/Look.h"
+#include "desktop/LostReleases.h"
 #include "desktop/MediaPlayer.h"
 #include "desktop/SystemServices.h"
 #include "desktop/SystemWishes.h"
@@ -57,6 +58,7 @@ private:
     void LoadTranslation();
 
     QApplication app_;
+    LostReleases releases_;
     QTranslator translator_;
     GameFolder folder_;
     WindowDisplay display_;

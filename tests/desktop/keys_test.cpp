@@ -1,9 +1,11 @@
 #include "desktop/Keys.h"
 
 #include <QInputMethodEvent>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "Rig.h"
+#include "desktop/LostReleases.h"
 
 namespace platform::desktop {
 namespace {
@@ -129,6 +131,34 @@ TEST_F(KeysInWindow, MenusAndShortcutsAreNoLetters) {
     QTest::keyClick(&Client(), Qt::Key_G, Qt::ControlModifier);  // a disabled entry
     EXPECT_EQ(started, 1);
     EXPECT_TRUE(form.Typed.empty());
+}
+
+/// Notes of each press that reaches it whether it is a repetition.
+struct Presses : QObject {
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress) repeated.push_back(static_cast<QKeyEvent&>(*event).isAutoRepeat());
+        return false;
+    }
+    std::vector<bool> repeated;
+};
+
+TEST(LostReleases, ARepetitionThatComesLateIsAPress) {
+    constexpr int kPatience = 200;
+    LostReleases releases{std::chrono::milliseconds(kPatience)};
+    Presses presses;
+    QWidget widget;
+    widget.winId();
+    widget.windowHandle()->installEventFilter(&presses);
+    const auto press = [&widget](bool isRepeated) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", isRepeated);
+        QCoreApplication::sendEvent(widget.windowHandle(), &event);
+    };
+    press(false);
+    press(true);
+    QTest::qWait(2 * kPatience);
+    press(true);
+    press(true);
+    EXPECT_EQ(presses.repeated, (std::vector{false, true, false, true}));
 }
 
 }  // namespace
