@@ -35,7 +35,7 @@ Color Towards(Color from, Color to, double part) {
     const Channels a = ChannelsOf(from);
     const Channels b = ChannelsOf(to);
     const auto mix = [part](int start, int end) { return start + static_cast<int>(std::lround((end - start) * part)); };
-    return Color(mix(a.Red, b.Red) << 16 | mix(a.Green, b.Green) << 8 | mix(a.Blue, b.Blue));
+    return mix(a.Red, b.Red) << 16 | mix(a.Green, b.Green) << 8 | mix(a.Blue, b.Blue);
 }
 
 bool Covers(const Place& place, int x, int y) {
