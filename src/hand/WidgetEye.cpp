@@ -1,7 +1,6 @@
 #include "hand/WidgetEye.h"
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -68,7 +67,7 @@ Value FontSizeSeen(const Scale& scale, const QWidget& widget, const Value& state
     constexpr double kPointsPerTwip = 0.05;
     const double points = std::get<double>(state);
     const int wanted = scale.Font(FontName::Arial, points, false).pixelSize();
-    const int seen = QFontInfo(widget.font()).pixelSize();
+    const int seen = widget.font().pixelSize();
     const auto* const label = dynamic_cast<const QLabel*>(&widget);
     const auto* const button = dynamic_cast<const QPushButton*>(&widget);
     const QString text = label != nullptr ? label->text() : button != nullptr ? button->text() : QString();
