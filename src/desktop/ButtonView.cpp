@@ -5,7 +5,6 @@
 #include "desktop/Colors.h"
 #include "desktop/Strings.h"
 #include "desktop/TextLines.h"
-#include "platform/Contrast.h"
 
 namespace platform::desktop {
 
@@ -59,8 +58,7 @@ ButtonView::ButtonView(const Toolkit& toolkit, CommandButton& element, QWidget& 
 
 void ButtonView::Apply(const ButtonLook& look) {
     if (!look.BackColor.IsNone()) {
-        const Ink design{look.BackColor, Black};
-        const Ink ink = toolkit_.Wishes.HighContrast ? Readable(design) : design;
+        const Ink ink = Shown({look.BackColor, Black});
         QPalette palette(ToQt(ink.Ground));
         palette.setColor(QPalette::Active, QPalette::ButtonText, ToQt(ink.Letters));
         widget_.setPalette(palette);

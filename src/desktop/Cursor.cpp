@@ -28,7 +28,7 @@ View* Further(const std::vector<View*>& stops, const View* from, int by) {
 }  // namespace
 
 Cursor::Cursor(const Toolkit& toolkit, const Form& form, const Board& board, QWidget& client)
-    : scale_(toolkit.Scale), form_(form), board_(board), client_(client), ring_(*new Ring(client, Qt::white)) {}
+    : form_(form), board_(board), client_(client), ring_(*new Ring(client, toolkit.Scale, Qt::white)) {}
 
 const View* Cursor::Here() const {
     return here_ != nullptr && board_.IsStop(*here_) ? here_ : nullptr;
@@ -108,7 +108,7 @@ void Cursor::Refresh() {
     const View* shown = Here();
     const View* const focus = board_.Of(client_.window()->focusWidget());
     if (shown == nullptr && focus != nullptr && focus->Element().kind == Kind::CommandButton) shown = focus;
-    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget(), scale_.LineWidth(kRingBand));
+    ring_.Surround(shown == nullptr ? nullptr : &shown->Widget());
 }
 
 }  // namespace platform::desktop

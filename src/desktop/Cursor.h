@@ -29,7 +29,6 @@ private:
     void StepRow(int by);
     void GoTo(View& view);
 
-    const Scale& scale_;
     const Form& form_;
     const Board& board_;
     QWidget& client_;

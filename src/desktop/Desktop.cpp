@@ -58,7 +58,9 @@ private:
     void LoadTranslation();
 
     QApplication app_;
+#ifdef Q_OS_WIN
     LostReleases releases_;
+#endif
     QTranslator translator_;
     GameFolder folder_;
     WindowDisplay display_;
@@ -85,7 +87,6 @@ Desktop::Parts::Parts(int& argc, char** argv)
       scheduler_([this] { return heartbeat_.Now(); }),
       screen_(display_, scheduler_) {
     display_.Attach(screen_);
-    SetLook(display_.Kit().Scale);
     InstallAccess();
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
@@ -101,12 +102,12 @@ Desktop::Parts::Parts(int& argc, char** argv)
 bool Desktop::Parts::EnterFolder(const GameFolder::Keeper& keeper) {
     QApplication::setApplicationName("zarpi");
     const bool free = folder_.Enter(GameFolder::SystemPlaces(), keeper);
+    display_.Kit().Sizing.Recall();
+    SetLook(display_.Kit().Scale);
     if (!free && !Doorbell::Ring()) {
         QApplication::setWindowIcon(display_.Kit().Pictures.Stored("icon", {64, 64}));
         ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
     }
-    display_.Kit().Sizing.Recall();
-    SetLetters(display_.Kit().Scale);
     return free;
 }
 

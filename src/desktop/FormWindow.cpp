@@ -39,7 +39,7 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       client_(*new Client(this)),
       board_(toolkit.Screen),
       cursor_(toolkit_, form, board_, client_),
-      mark_(*new Ring(client_, Qt::yellow)),
+      mark_(*new Ring(client_, toolkit.Scale, Qt::yellow)),
       keys_(*new KeyFilter(toolkit_, form, client_, cursor_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
     mark_.setObjectName("mark");
@@ -185,7 +185,7 @@ void FormWindow::RaiseContrast() {
 void FormWindow::RefreshMark() {
     const auto marked =
         std::ranges::find_if(views_, [this](const auto& view) { return toolkit_.Screen.IsMarked(*view.first); });
-    mark_.Surround(marked == views_.end() ? nullptr : &marked->second->Widget(), toolkit_.Scale.LineWidth(kRingBand));
+    mark_.Surround(marked == views_.end() ? nullptr : &marked->second->Widget());
 }
 
 /// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old

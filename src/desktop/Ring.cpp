@@ -5,17 +5,22 @@
 
 namespace platform::desktop {
 
-Ring::Ring(QWidget& client, Qt::GlobalColor bright) : QWidget(&client), bright_(bright) {
+Ring::Ring(QWidget& client, const Scale& scale, Qt::GlobalColor bright)
+    : QWidget(&client), scale_(scale), bright_(bright) {
     setObjectName("ring");
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
 
-void Ring::Surround(const QWidget* widget, int band) {
+int Ring::Band() const {
+    constexpr int kBand = 3;  // at factor 1
+    return scale_.LineWidth(kBand);
+}
+
+void Ring::Surround(const QWidget* widget) {
     setVisible(widget != nullptr);
     if (widget == nullptr) return;
-    band_ = band;
-    const int margin = 2 * band_;
+    const int margin = 2 * Band();
     const QRect box = widget->geometry().adjusted(-margin, -margin, margin, margin) & parentWidget()->rect();
     if (box != geometry()) setGeometry(box);
     if (dynamic_cast<const Ring*>(parentWidget()->children().last()) == nullptr) raise();
@@ -25,14 +30,15 @@ void Ring::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     // A page shows the window, not where the keys are.
     if (painter.paintEngine()->type() != QPaintEngine::Raster) return;
+    const int width = Band();
     const auto band = [&](int inset, Qt::GlobalColor color) {
         const QRect outer = rect().adjusted(inset, inset, -inset, -inset);
-        const QRegion inner(outer.adjusted(band_, band_, -band_, -band_));
+        const QRegion inner(outer.adjusted(width, width, -width, -width));
         painter.setClipRegion(QRegion(outer) - inner);
         painter.fillRect(outer, color);
     };
     band(0, Qt::black);
-    band(band_, bright_);
+    band(width, bright_);
 }
 
 }  // namespace platform::desktop

@@ -2,25 +2,28 @@
 
 #include <QWidget>
 
-namespace platform::desktop {
+#include "desktop/Scale.h"
 
-constexpr int kRingBand = 3;  ///< pixels at factor 1
+namespace platform::desktop {
 
 /// A strong ring around an element: a black band around a bright one, so that one of the two stands out from every
 /// ground. It lies over the elements of the client area and lets the mouse through.
 class Ring : public QWidget {
 public:
-    Ring(QWidget& client, Qt::GlobalColor bright);
+    Ring(QWidget& client, const Scale& scale, Qt::GlobalColor bright);
 
-    /// Shows the ring, two bands of `band` pixels, around a widget of the client area; null hides it.
-    void Surround(const QWidget* widget, int band);
+    /// Shows the ring around a widget of the client area; null hides it.
+    void Surround(const QWidget* widget);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The width of each band in pixels.
+    [[nodiscard]] int Band() const;
+
+    const Scale& scale_;
     const Qt::GlobalColor bright_;
-    int band_ = 1;
 };
 
 }  // namespace platform::desktop

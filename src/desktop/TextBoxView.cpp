@@ -7,7 +7,6 @@
 
 #include "desktop/Colors.h"
 #include "desktop/Strings.h"
-#include "platform/Contrast.h"
 
 namespace platform::desktop {
 
@@ -74,8 +73,7 @@ TextBoxView::TextBoxView(const Toolkit& toolkit, TextBox& element, QWidget& clie
 }
 
 void TextBoxView::Apply(const TextBoxLook& look) {
-    const Ink design{look.BackColor, look.ForeColor};
-    const Ink ink = toolkit_.Wishes.HighContrast ? Readable(design) : design;
+    const Ink ink = Shown({look.BackColor, look.ForeColor});
     QPalette palette = widget_.palette();
     palette.setColor(QPalette::Base, ToQt(ink.Ground));
     palette.setColor(QPalette::Text, ToQt(ink.Letters));

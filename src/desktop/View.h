@@ -10,6 +10,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/Scale.h"
 #include "desktop/Sizing.h"
+#include "platform/Contrast.h"
 #include "platform/Screen.h"
 #include "platform/Wishes.h"
 
@@ -48,6 +49,10 @@ protected:
     /// Lets the left mouse button click the element, over which the pointer becomes a hand; the form instead, if the
     /// element has nothing to do.
     void TakeClicks();
+    /// The colours of letters and their ground as the player wishes them.
+    [[nodiscard]] Ink Shown(const Ink& design) const {
+        return toolkit_.Wishes.HighContrast ? Readable(design) : design;
+    }
     /// Gives the widget its place in the order of the focus and tells the screen when the player moves it there.
     void TakeFocus(int tabIndex);
 

@@ -72,10 +72,10 @@ void WindowDisplay::Refresh() {
 }
 
 void WindowDisplay::ShowAnew() {
-    if (screen_->Shown().empty()) return;
-    const FormWindow* const first = WindowOf(*screen_->Shown().front());
+    const FormWindow* const first = screen_->Shown().empty() ? nullptr : WindowOf(*screen_->Shown().front());
+    if (first == nullptr) return;
     for (const auto& [form, window] : windows_) {
-        if (window != nullptr && first != nullptr) window->ShowAnew(*first);
+        if (window != nullptr) window->ShowAnew(*first);
     }
 }
 
