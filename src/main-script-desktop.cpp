@@ -4,9 +4,9 @@
 #include <QApplication>
 #include <QScreen>
 
-#include "desktop/Access.h"
-#include "desktop/Assets.h"
-#include "desktop/Look.h"
+#include "desktop/access/Access.h"
+#include "desktop/system/Assets.h"
+#include "desktop/windows/Look.h"
 #include "hand/ReaderHand.h"
 #include "hand/WidgetEye.h"
 #include "headless/FolderFiles.h"

@@ -34,7 +34,7 @@ MUSIC = "ogg"
 
 def picture_sources(assets: Path):
     """Name and path of each picture of single size, those stored with forms and those opened by name."""
-    for path in sorted(assets.glob("forms/*")) + sorted(assets.glob("game/*.bmp")):
+    for path in sorted(assets.glob("game/forms/*")) + sorted(assets.glob("game/*.bmp")):
         if "@" not in path.stem:
             yield path.stem, path
 

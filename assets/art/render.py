@@ -1,4 +1,4 @@
-"""Draws every picture of the game: `python3 render.py FOLDER`, FOLDER being the one that holds game/, forms/ and icons/.
+"""Draws every picture of the game: `python3 render.py FOLDER`, FOLDER being the one that holds game/ and icons/.
 
 Each picture is composed as SVG, rendered at 100 % and at what larger sizes are kept of it ("NAME@2x", "NAME@4x"), and
 written in the format that its place asks for.
@@ -58,26 +58,26 @@ def pictures() -> Iterator[Picture]:
     for name in POSES:
         if name.startswith("Zarpi"):
             yield Picture(f"game/{name}", lambda n=name: hero(n), ".bmp")
-    yield Picture("forms/falling", lambda: hero("falling"), ".png")
-    yield Picture("forms/ground", lambda: hero("Zarpi8"), ".png")
-    yield Picture("forms/standing", lambda: hero("Zarpi1"), ".png")
-    yield Picture("forms/small", small_hero, ".png")
+    yield Picture("game/forms/falling", lambda: hero("falling"), ".png")
+    yield Picture("game/forms/ground", lambda: hero("Zarpi8"), ".png")
+    yield Picture("game/forms/standing", lambda: hero("Zarpi1"), ".png")
+    yield Picture("game/forms/small", small_hero, ".png")
     for number in STATIONS:
-        yield Picture(f"forms/fondo{number}", lambda n=number: background(n), ".jpg")
-    yield Picture("forms/ledge", ledge, ".jpg", quality=93)
-    yield Picture("forms/cliff", cliff, ".jpg", quality=93)
-    yield Picture("forms/title", title, ".jpg", quality=90)
+        yield Picture(f"game/forms/fondo{number}", lambda n=number: background(n), ".jpg")
+    yield Picture("game/forms/ledge", ledge, ".jpg", quality=93)
+    yield Picture("game/forms/cliff", cliff, ".jpg", quality=93)
+    yield Picture("game/forms/title", title, ".jpg", quality=90)
     for players in (1, 2):
-        yield Picture(f"forms/diploma{players}", lambda n=players: diploma(n), ".jpg", quality=92)
-    yield Picture("forms/curtain", curtain, ".jpg")
+        yield Picture(f"game/forms/diploma{players}", lambda n=players: diploma(n), ".jpg", quality=92)
+    yield Picture("game/forms/curtain", curtain, ".jpg")
     for design in STARS:
-        yield Picture(f"forms/star{design}", lambda n=design: star_picture(n), ".png")
-    yield Picture("forms/publi", advert, ".jpg", quality=93)
+        yield Picture(f"game/forms/star{design}", lambda n=design: star_picture(n), ".png")
+    yield Picture("game/forms/publi", advert, ".jpg", quality=93)
     for name in WASHES:
-        yield Picture(f"forms/{name}", lambda n=name: wash(n), ".jpg", TWICE)
+        yield Picture(f"game/forms/{name}", lambda n=name: wash(n), ".jpg", TWICE)
     for suffix, size in (("", 32), ("@2x", 64)):
-        yield Picture(f"forms/icon{suffix}", lambda n=size: application_icon(n), ".png", ONCE)
-        yield Picture(f"forms/icondialogo{suffix}", lambda n=size: dialog_icon(n), ".png", ONCE)
+        yield Picture(f"game/forms/icon{suffix}", lambda n=size: application_icon(n), ".png", ONCE)
+        yield Picture(f"game/forms/icondialogo{suffix}", lambda n=size: dialog_icon(n), ".png", ONCE)
     for size in SIZES:
         yield Picture(f"icons/hicolor/{size}x{size}/apps/zarpi", lambda n=size: application_icon(n), ".png", ONCE)
 

@@ -7,18 +7,19 @@
 #include <cstdlib>
 #include <random>
 
-#include "desktop/Access.h"
-#include "desktop/Announcer.h"
-#include "desktop/Doorbell.h"
-#include "desktop/DurableFiles.h"
-#include "desktop/FormPrinter.h"
-#include "desktop/Heartbeat.h"
-#include "desktop/Look.h"
-#include "desktop/LostReleases.h"
-#include "desktop/MediaPlayer.h"
-#include "desktop/SystemServices.h"
-#include "desktop/SystemWishes.h"
-#include "desktop/WindowDisplay.h"
+#include "desktop/access/Access.h"
+#include "desktop/access/Announcer.h"
+#include "desktop/keys/LostReleases.h"
+#include "desktop/system/Doorbell.h"
+#include "desktop/system/DurableFiles.h"
+#include "desktop/system/Heartbeat.h"
+#include "desktop/system/MediaPlayer.h"
+#include "desktop/system/SystemServices.h"
+#include "desktop/system/SystemWishes.h"
+#include "desktop/windows/FormPrinter.h"
+#include "desktop/windows/Look.h"
+#include "desktop/windows/MessageDialogs.h"
+#include "desktop/windows/WindowDisplay.h"
 #include "platform/Generator.h"
 
 #ifdef __GLIBC__

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "desktop/GameFolder.h"
+#include "desktop/system/GameFolder.h"
 #include "platform/Services.h"
 
 namespace platform::desktop {

@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <QCoreApplication>
 
-#include "desktop/Strings.h"
+#include "desktop/values/Strings.h"
 
 namespace platform::hand {
 

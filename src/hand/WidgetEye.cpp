@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "desktop/PictureView.h"
-#include "desktop/Strings.h"
+#include "desktop/values/Strings.h"
+#include "desktop/views/PictureView.h"
 #include "hand/Widgets.h"
 
 namespace platform::hand {

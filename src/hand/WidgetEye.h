@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/WindowDisplay.h"
+#include "desktop/windows/WindowDisplay.h"
 #include "headless/Hand.h"
 
 namespace platform::hand {

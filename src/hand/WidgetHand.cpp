@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <array>
 
-#include "desktop/Strings.h"
+#include "desktop/values/Strings.h"
 #include "hand/Widgets.h"
 
 namespace platform::hand {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/WindowDisplay.h"
+#include "desktop/windows/WindowDisplay.h"
 #include "headless/Hand.h"
 
 /// The player of a script at the real windows: he acts by events of mouse and keyboard and reads what the widgets show.

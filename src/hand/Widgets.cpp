@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 
-#include "desktop/Strings.h"
+#include "desktop/values/Strings.h"
 
 namespace platform::hand {
 

@@ -3,7 +3,7 @@
 #include <QAction>
 #include <QWidget>
 
-#include "desktop/WindowDisplay.h"
+#include "desktop/windows/WindowDisplay.h"
 
 namespace platform::hand {
 

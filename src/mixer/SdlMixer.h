@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-#include "desktop/Mixer.h"
+#include "desktop/system/Mixer.h"
 
 namespace platform::desktop {
 

@@ -2,9 +2,9 @@
 
 #include <QTest>
 
-#include "desktop/Assets.h"
-#include "desktop/Heartbeat.h"
-#include "desktop/WindowDisplay.h"
+#include "desktop/system/Assets.h"
+#include "desktop/system/Heartbeat.h"
+#include "desktop/windows/WindowDisplay.h"
 
 namespace platform::desktop {
 

@@ -1,6 +1,6 @@
 // The game without sight and without a mouse.
 
-#include "desktop/Access.h"
+#include "desktop/access/Access.h"
 
 #include <QAccessible>
 #include <QPainter>
@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "desktop/Announcer.h"
+#include "desktop/access/Announcer.h"
 
 namespace platform::desktop {
 namespace {

@@ -14,9 +14,9 @@
 
 #include "ContratoArchivos.h"
 #include "Rig.h"
-#include "desktop/Doorbell.h"
-#include "desktop/DurableFiles.h"
-#include "desktop/GameFolder.h"
+#include "desktop/system/Doorbell.h"
+#include "desktop/system/DurableFiles.h"
+#include "desktop/system/GameFolder.h"
 
 namespace platform::desktop {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "Platform.h"
 #include "Rig.h"
-#include "desktop/LabelView.h"
+#include "desktop/views/LabelView.h"
 #include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
 

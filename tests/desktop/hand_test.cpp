@@ -13,7 +13,7 @@
 #include <sstream>
 
 #include "Rig.h"
-#include "desktop/PictureView.h"
+#include "desktop/views/PictureView.h"
 #include "hand/WidgetEye.h"
 #include "hand/WidgetHand.h"
 #include "headless/FolderFiles.h"

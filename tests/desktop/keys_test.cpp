@@ -1,11 +1,11 @@
-#include "desktop/Keys.h"
+#include "desktop/keys/Keys.h"
 
 #include <QInputMethodEvent>
 #include <QWindow>
 #include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "desktop/LostReleases.h"
+#include "desktop/keys/LostReleases.h"
 
 namespace platform::desktop {
 namespace {

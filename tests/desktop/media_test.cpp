@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "Rig.h"
-#include "desktop/MediaPlayer.h"
+#include "desktop/system/MediaPlayer.h"
 
 namespace platform::desktop {
 namespace {

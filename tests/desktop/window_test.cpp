@@ -12,9 +12,9 @@
 #include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "desktop/FormPrinter.h"
-#include "desktop/PictureView.h"
-#include "desktop/WindowPlace.h"
+#include "desktop/sizes/WindowPlace.h"
+#include "desktop/views/PictureView.h"
+#include "desktop/windows/FormPrinter.h"
 
 namespace platform::desktop {
 namespace {

@@ -15,8 +15,8 @@
 
 #include "Platform.h"
 #include "Rig.h"
-#include "desktop/LabelView.h"
-#include "desktop/SystemWishes.h"
+#include "desktop/system/SystemWishes.h"
+#include "desktop/views/LabelView.h"
 #include "headless/MemoryFiles.h"
 #include "platform/Contrast.h"
 #include "shell/Juego.h"
