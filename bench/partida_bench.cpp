@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr platform::Key kEnter{.Code = platform::KeyEnter, .Character = platform::KeyEnter};
-
 /// Knows every word, and wins.
 class JugadorQueSabe : public Jugador {
 public:

@@ -54,12 +54,6 @@ std::vector<int> ParseNumbers(std::string_view text, char separator, std::size_t
 }
 
 /// First word and rest of a line.
-std::pair<std::string_view, std::string_view> SplitWord(std::string_view line) {
-    const auto blank = line.find(' ');
-    if (blank == std::string_view::npos) return {line, {}};
-    return {line.substr(0, blank), line.substr(blank + 1)};
-}
-
 Key ParseKey(std::string_view name) {
     static const std::map<std::string_view, Key> kNamed = {{"Enter", {.Code = KeyEnter, .Character = KeyEnter}},
                                                            {"Esc", {.Code = KeyEscape, .Character = KeyEscape}},
@@ -172,7 +166,7 @@ void Player::Execute(std::string_view line) {
         return;
     }
     // The blanks of a text to be typed are its own.
-    (this->*row->action)(word == "keys" ? rest : TrimmedView(rest));
+    (this->*row->action)(word == "keys" ? line.substr(std::min(line.size(), word.size() + 1)) : TrimmedView(rest));
 }
 
 void Player::SetDate(std::string_view rest) {

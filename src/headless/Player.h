@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "headless/Folder.h"
@@ -31,6 +32,9 @@ struct Means {
 
 /// How a script went. A script is unreadable from the first line that cannot be read or names what does not exist.
 enum class Outcome { Good, ExpectFailed, Unreadable };
+
+/// The first word of a line, and what follows the blanks behind it.
+std::pair<std::string_view, std::string_view> SplitWord(std::string_view line);
 
 /// Plays a program from a script, one command a line. Works in the current folder.
 class Player {

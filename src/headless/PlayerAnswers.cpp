@@ -8,15 +8,15 @@
 /// What a script asks: `show` and `expect`.
 namespace platform::headless {
 
-namespace {
-
-constexpr const char* kSeen = ", shown as ";
-
 std::pair<std::string_view, std::string_view> SplitWord(std::string_view line) {
     const auto blank = line.find(' ');
     if (blank == std::string_view::npos) return {line, {}};
-    return {line.substr(0, blank), line.substr(line.find_first_not_of(' ', blank))};
+    return {line.substr(0, blank), line.substr(std::min(line.size(), line.find_first_not_of(' ', blank)))};
 }
+
+namespace {
+
+constexpr const char* kSeen = ", shown as ";
 
 std::string Hex(std::string_view bytes) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";

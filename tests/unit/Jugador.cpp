@@ -10,7 +10,6 @@ using juego::Text;
 
 namespace {
 
-constexpr Key kEnter{.Code = KeyEnter, .Character = KeyEnter};
 constexpr Key kEscape{.Code = KeyEscape, .Character = KeyEscape};
 
 std::string FaultOfFiles(Files& files) {

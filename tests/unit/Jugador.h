@@ -21,6 +21,8 @@ public:
     std::function<void()> OnEnd;
 
 protected:
+    static constexpr platform::Key kEnter{.Code = platform::KeyEnter, .Character = platform::KeyEnter};
+
     /// Starts the program anew; the files stay.
     void Restart();
     /// Makes moves until `moves` of them are made, or a fault is found, or the program ends.
