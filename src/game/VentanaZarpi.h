@@ -198,10 +198,10 @@ struct VentanaZarpi : Form {
     Timer tmrTiempo{*this, "tmrTiempo", 100};
 
     // Media channels
-    MediaChannel sonComodín{"sonComodín", {}};
-    MediaChannel sonCaída{"sonCaída", {}};
+    MediaChannel sonComodín{.Name = "sonComodín", .FileName = {}, .OverMusic = true};
+    MediaChannel sonCaída{.Name = "sonCaída", .FileName = {}, .OverMusic = true};
     MediaChannel sonPal16{.Name = "sonPal16", .FileName = {}, .OverMusic = true};
-    MediaChannel sonPrisa{"sonPrisa", {}};
+    MediaChannel sonPrisa{.Name = "sonPrisa", .FileName = {}, .OverMusic = true};
     MediaChannel sonTeclado{"sonTeclado", {}};
     std::array<MediaChannel, 12> sonMusica = CanalesMusica();
 

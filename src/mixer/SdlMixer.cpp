@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "mixer/Rendition.h"
+#include "platform/Mix.h"
 
 namespace platform::desktop {
 
@@ -22,12 +23,9 @@ constexpr auto kAsleep = 1h;         // nothing is due
 constexpr int kRate = 44100;
 constexpr int kStereo = 2;
 constexpr int kBlock = 512;    // frames, 12 ms: the steps of every fade
-constexpr int kFadeOut = 50;   // milliseconds
 constexpr int kOverMusic = 1;  // tag of the channels that the music goes back under
 
-constexpr double kBack = 0.3162;        // -10 dB
-constexpr double kBackPerBlock = 0.75;  // -2.5 dB: back in 46 ms
-constexpr double kUpPerBlock = 1.035;   // 0.3 dB: up again in 0.4 s
+constexpr double kBlocksPerMillisecond = kRate / 1000.0 / kBlock;
 
 bool IsMusic(const std::string& file) {
     return file.ends_with(".mid");
@@ -60,7 +58,7 @@ bool SdlMixer::Open() {
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Música y sonidos");
     if (Mix_OpenAudio(kRate, AUDIO_S16SYS, kStereo, kBlock) != 0) return false;
     Mix_AllocateChannels(0);
-    level_ = 1;
+    level_ = 0;
     Mix_VolumeMusic(MIX_MAX_VOLUME);
     Mix_SetPostMix(&Balance, this);
     nextTry_ = {};
@@ -112,10 +110,10 @@ void SdlMixer::Stop(const std::string& channel) {
     if (channel == musicChannel_) {
         musicChannel_.clear();
         nextMusic_.clear();
-        Mix_FadeOutMusic(kFadeOut);
+        Mix_FadeOutMusic(kMix.Stop);
     }
     const auto sound = sounds_.find(channel);
-    if (sound != sounds_.end()) Mix_FadeOutChannel(sound->second.number, kFadeOut);
+    if (sound != sounds_.end()) Mix_FadeOutChannel(sound->second.number, kMix.Stop);
 }
 
 void SdlMixer::FreeMusic() {
@@ -136,12 +134,15 @@ std::chrono::milliseconds SdlMixer::Attend() {
 }
 
 void SdlMixer::Balance(void* mixer, Uint8* /*stream*/, int /*length*/) {
-    double& level = static_cast<SdlMixer*>(mixer)->level_;
-    const bool back = Mix_GroupNewer(kOverMusic) != -1;
-    const double next = back ? std::max(kBack, level * kBackPerBlock) : std::min(1.0, level * kUpPerBlock);
-    if (next == level) return;
-    level = next;
-    Mix_VolumeMusic(static_cast<int>(std::lround(level * MIX_MAX_VOLUME)));
+    auto& self = *static_cast<SdlMixer*>(mixer);
+    const double target = MusicLevel(Mix_GroupNewer(kOverMusic) != -1, self.underVoice_);
+    const double back = kMix.UnderSound / (kMix.Back * kBlocksPerMillisecond);
+    const double up = -kMix.UnderSound / (kMix.Up * kBlocksPerMillisecond);
+    const double next =
+        self.level_ > target ? std::max(target, self.level_ + back) : std::min(target, self.level_ + up);
+    if (next == self.level_) return;
+    self.level_ = next;
+    Mix_VolumeMusic(static_cast<int>(std::lround(std::pow(10, next / 20) * MIX_MAX_VOLUME)));
 }
 
 void SdlMixer::Close() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <SDL_mixer.h>
+#include <atomic>
 #include <chrono>
 #include <map>
 #include <string>
@@ -20,6 +21,7 @@ public:
     SdlMixer& operator=(const SdlMixer&) = delete;
 
     void Do(const MediaOrder& order) override;
+    void UnderVoice(bool listens) override { underVoice_ = listens; }
     std::chrono::milliseconds Attend() override;
 
 private:
@@ -49,7 +51,8 @@ private:
     std::string musicChannel_;
     std::string nextMusic_;  // waits for the end of the one that fades out
     Mix_Music* music_ = nullptr;
-    double level_ = 1;  // of the music; the mixer's thread alone uses it while the device is open
+    std::atomic<bool> underVoice_ = false;
+    double level_ = 0;  // of the music, decibels; the mixer's thread alone uses it while the device is open
 };
 
 }  // namespace platform::desktop

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QLibrary>
 #include <memory>
+#include <utility>
 
 #include "desktop/system/Assets.h"
 
@@ -52,16 +53,26 @@ void MediaPlayer::Command(const MediaChannel& channel, MediaCommand command) {
     wake_.notify_one();
 }
 
+void MediaPlayer::UnderVoice(bool listens) {
+    {
+        const std::lock_guard lock(mutex_);
+        underVoice_ = listens;
+    }
+    wake_.notify_one();
+}
+
 void MediaPlayer::Work() {
     using namespace std::chrono_literals;
     const std::unique_ptr<Mixer> mixer = LoadMixer();
     std::unique_lock lock(mutex_);
+    bool underVoice = false;
     while (!ending_) {
+        if (std::exchange(underVoice, underVoice_) != underVoice_ && mixer != nullptr) mixer->UnderVoice(underVoice);
         if (orders_.empty()) {
             lock.unlock();
             const auto patience = mixer == nullptr ? 1h : mixer->Attend();
             lock.lock();
-            wake_.wait_for(lock, patience, [this] { return ending_ || !orders_.empty(); });
+            wake_.wait_for(lock, patience, [&] { return ending_ || !orders_.empty() || underVoice != underVoice_; });
             continue;
         }
         const MediaOrder order = std::move(orders_.front());

@@ -22,6 +22,9 @@ public:
 
     void Command(const MediaChannel& channel, MediaCommand command) override;
 
+    /// Whether somebody listens to a screen reader: the music goes back at once, and stays there until nobody does.
+    void UnderVoice(bool listens);
+
 private:
     void Work();
 
@@ -29,6 +32,7 @@ private:
     std::mutex mutex_;
     std::condition_variable wake_;
     std::deque<MediaOrder> orders_;
+    bool underVoice_ = false;
     bool ending_ = false;
     std::thread worker_;
 };

@@ -24,6 +24,9 @@ public:
     /// Carries out an order; a file or device that fails is silent.
     virtual void Do(const MediaOrder& order) = 0;
 
+    /// Whether somebody listens to a screen reader, under whose voice the music goes back.
+    virtual void UnderVoice(bool listens) = 0;
+
     /// Does what is due, and tells when to come again at the latest.
     virtual std::chrono::milliseconds Attend() = 0;
 };
