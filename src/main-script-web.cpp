@@ -71,7 +71,7 @@ public:
 private:
     [[nodiscard]] bool IsBlocked(std::string_view name) const { return blocked_.contains(name); }
 
-    web::StoredFiles files_;
+    storage::MemoryFiles files_ = web::StoredFiles();
     std::set<std::string, std::less<>> blocked_;
 };
 

@@ -45,7 +45,7 @@ ZARPI_EXPORT("open") Program* zarpi_open() {
 ZARPI_EXPORT("run") void zarpi_run(Program* program) {
     platform::web::Browser& browser = program->browser;
     juego::Juego& juego = program->juego;
-    if (browser.IsNew()) juego::EstrenarCarpeta(browser.Services().Files);
+    juego::EstrenarCarpeta(browser.Services().Files);
     browser.OnUnsaved([&juego] { juego.AvisarError(); });
     juego.Start();
     browser.Run();

@@ -1,16 +1,17 @@
 # The headers of a room are found by rooms above it alone, and never across the families: the game knows no platform, a
-# platform knows no game.
+# platform knows no game. All platforms may use storage.
 #   ROOMS (the rooms' libraries), SEEN_<room> (where its includes are looked for), SOURCES (the folder of the rooms)
 set(floors_game game,records commentary,sound words,stage,windows engine,voice shell)
 set(floors_desktop desktop-values desktop-system,desktop-sizes desktop-views,mixer desktop-keys desktop-windows
     desktop-access desktop)
+set(floors_storage storage)
 set(floors_headless headless)
 set(floors_web web)
 set(floors_hand hand)
 
 set(FAMILY_platform platform)
 set(FLOOR_platform 0)
-foreach(family game desktop headless web hand)
+foreach(family game storage desktop headless web hand)
     set(floor 0)
     foreach(rooms ${floors_${family}})
         math(EXPR floor "${floor} + 1")
@@ -35,6 +36,7 @@ function(may_see room other result)
     set(${result} FALSE PARENT_SCOPE)
     if(other STREQUAL room OR other STREQUAL platform
         OR (FAMILY_${room} STREQUAL FAMILY_${other} AND FLOOR_${other} LESS FLOOR_${room})
+        OR (other STREQUAL storage AND NOT FAMILY_${room} STREQUAL game)
         OR (room STREQUAL hand AND FAMILY_${other} MATCHES "^(desktop|headless)$"))
         set(${result} TRUE PARENT_SCOPE)
     endif()

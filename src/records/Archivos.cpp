@@ -33,9 +33,9 @@ bool HayArchivos(Files& files) {
 }
 
 bool EstrenarCarpeta(Files& files) {
-    if (std::ranges::any_of(Pares, [&files](const Par& par) { return files.Exists(par.Registros); })) return true;
-    return std::ranges::all_of(
-        Pares, [&files](const Par& par) { return files.Exists(par.Contador) || EscribirContador(files, par, 0); });
+    return std::ranges::all_of(Pares, [&files](const Par& par) {
+        return files.Exists(par.Contador) || files.Exists(par.Registros) || EscribirContador(files, par, 0);
+    });
 }
 
 }  // namespace juego

@@ -53,8 +53,8 @@ bool EscribirContador(Files& files, const Par& par, int count);
 /// Whether anything of the game's is stored in the folder.
 bool HayArchivos(Files& files);
 
-/// Furnishes a new game folder: every counter that is not there comes into being with 0. One that has records is not
-/// new, and stays as it is. False on failure.
+/// Furnishes a game folder: a pair of which neither file is there gets its counter, with 0. A pair that has lost one of
+/// its files stays as it is. False on failure.
 bool EstrenarCarpeta(Files& files);
 
 }  // namespace juego

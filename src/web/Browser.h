@@ -22,9 +22,6 @@ public:
     /// What the game works with; lives as long as this does.
     platform::Services& Services() { return services_; }
 
-    /// Whether nothing has been stored yet.
-    [[nodiscard]] bool IsNew() const { return files_.IsEmpty(); }
-
     /// What follows when something written could not be stored for good.
     void OnUnsaved(std::function<void()> tell) { display_.OnUnsaved = std::move(tell); }
 
@@ -43,7 +40,7 @@ private:
     PageMedia media_{display_};
     PageBrowser browser_{display_};
     PageSpeech speech_{display_};
-    StoredFiles files_;
+    storage::MemoryFiles files_ = StoredFiles();
     platform::Services services_{screen_, dialogs_, printer_, clock_, random_, media_, browser_, files_, speech_};
 };
 

@@ -5,8 +5,8 @@
 #include "Platform.h"
 #include "Rig.h"
 #include "desktop/views/LabelView.h"
-#include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
+#include "storage/MemoryFiles.h"
 
 namespace platform::desktop {
 namespace {
@@ -22,7 +22,7 @@ protected:
     }
     QImage Seen(const Form& form) { return rig.Widget(form).grab().toImage(); }
 
-    headless::MemoryFiles files;
+    storage::MemoryFiles files;
     Platform platform{files};
     juego::Juego juego{platform.Services().Services()};
     juego::Zarpi& z = Window<juego::Zarpi>("Zarpi");

@@ -17,8 +17,8 @@
 #include "hand/WidgetEye.h"
 #include "hand/WidgetHand.h"
 #include "headless/FolderFiles.h"
-#include "headless/MemoryFiles.h"
 #include "headless/Player.h"
+#include "storage/MemoryFiles.h"
 
 namespace platform::hand {
 namespace {
@@ -63,7 +63,7 @@ struct AtTheWindow : testing::Test {
 
     const QTemporaryDir folder;
     const desktop::AssetsFrom assets{folder.path()};
-    headless::MemoryFiles files;
+    storage::MemoryFiles files;
     headless::FolderFiles scriptFolder;
     Sample form;
     int clicks = 0;

@@ -10,8 +10,8 @@
 #include "desktop/values/Strings.h"
 #include "desktop/views/TextLines.h"
 #include "game/Modos.h"
-#include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
+#include "storage/MemoryFiles.h"
 #include "windows/Presentaciones.h"
 #include "words/Tablas.h"
 
@@ -43,7 +43,7 @@ struct Texts : testing::Test {
             << label.Owner.Name << "." << label.FullName() << " at " << scale.Factor() << ": " << text.toStdString();
     }
 
-    headless::MemoryFiles files;
+    storage::MemoryFiles files;
     Platform platform{files};
     juego::Juego juego{platform.Services().Services()};
     std::vector<std::pair<const Label*, Text>> shown;

@@ -17,9 +17,9 @@
 #include "Rig.h"
 #include "desktop/system/SystemWishes.h"
 #include "desktop/views/LabelView.h"
-#include "headless/MemoryFiles.h"
 #include "platform/Contrast.h"
 #include "shell/Juego.h"
+#include "storage/MemoryFiles.h"
 
 namespace platform::desktop {
 namespace {
@@ -86,7 +86,7 @@ double SeenContrast(const QImage& window, const QRect& place) {
 }
 
 TEST(Contrast, OfEveryTextInTheGameIsHighWhereThatIsAskedFor) {
-    headless::MemoryFiles files;
+    storage::MemoryFiles files;
     Platform platform{files};
     juego::Juego game{platform.Services().Services()};
     Rig rig{2};

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "Platform.h"
-#include "headless/MemoryFiles.h"
 #include "shell/Juego.h"
+#include "storage/MemoryFiles.h"
 
 /// Players for tests: each plays the whole program by hand, in a game folder of its own in memory.
 class Jugador {
@@ -39,7 +39,7 @@ protected:
     void Press(char16_t character) { PressKey(platform::KeyOf(character)); }
     void PressKey(const platform::Key& key);
 
-    platform::headless::MemoryFiles files_;
+    platform::storage::MemoryFiles files_;
     std::unique_ptr<Platform> platform_;
     platform::headless::Headless* headless_ = nullptr;
     std::unique_ptr<juego::Juego> juego_;

@@ -5,13 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "headless/Headless.h"
-#include "headless/MemoryFiles.h"
+#include "storage/MemoryFiles.h"
 
 namespace juego {
 namespace {
 
 struct Escena {
-    platform::headless::MemoryFiles files;
+    platform::storage::MemoryFiles files;
     platform::headless::Headless headless{files};
     Zarpi z;
     platform::Services services = headless.Services();

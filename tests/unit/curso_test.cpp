@@ -213,7 +213,7 @@ TEST(Aspecto, IsWhatItWas) {
         0xf55640dc688e886aU, 0x87d7f44ccc884a7dU, 0xd91d1a3b7337c2c4U, 0xe20631f51b60b3fU,  0x5e3d1c7ba710cd50U,
         0x111aabdf048c9bdbU, 0xe8364811dcca4530U, 0x697333a32c2515a7U, 0x1fa1038eda4558f1U, 0x262875cf864cca5bU,
         0xb84f93e703360f21U, 0xc7f1050b970806f8U, 0x2f7bbce1f6d19bd9U};
-    headless::MemoryFiles files;
+    storage::MemoryFiles files;
     const Platform platform(files);
     juego::Juego juego(platform.Services().Services());
     for (std::size_t i = 0; const Form* form : juego.Ventanas()) {

@@ -5,15 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "Carpeta.h"
-#include "headless/MemoryFiles.h"
 #include "records/CuadrosDeHonor.h"
 #include "records/PartidasGuardadas.h"
 #include "records/UltimasPartidas.h"
+#include "storage/MemoryFiles.h"
 
 namespace juego {
 namespace {
 
-using platform::headless::MemoryFiles;
+using platform::storage::MemoryFiles;
 
 /// Files on a disk whose faults come and go, under a program that can be stopped.
 class BrittleFiles : public Files {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "headless/MemoryFiles.h"
+#include "storage/MemoryFiles.h"
 
 namespace platform::headless {
 namespace {
@@ -73,7 +73,7 @@ protected:
         headless.screen.ShowModal(dialog);
         story += '.';
     }
-    MemoryFiles files;
+    storage::MemoryFiles files;
     Main main;
     Dialog dialog;
     std::string story;
