@@ -11,8 +11,12 @@ import { Program } from "../../web/program.js";
 const UNREADABLE = 2;
 const PROGRAM = new URL(process.env.ZARPI_SCRIPT ?? "../../build/web/src/zarpi-script-web", import.meta.url);
 
-function fail(why) {
+function tellFault(why) {
   console.error(`zarpi-script-web: ${why}\nusage: zarpi-script-web [--folder DIR | --new-folder DIR] [FILE]`);
+}
+
+function fail(why) {
+  tellFault(why);
   process.exit(UNREADABLE);
 }
 
@@ -62,10 +66,12 @@ const own = {
     program.bytes(buffer, capacity).set(text.subarray(0, capacity));
     return text.length;
   },
+  // The process ends by itself when all that was written has been taken: process.exit cuts what a pipe has not taken yet.
   finish: (answers, length, error, errorLength, status) => {
     process.stdout.write(program.text(answers, length));
-    if (errorLength > 0) fail(program.text(error, errorLength));
-    process.exit(status);
+    if (errorLength > 0) tellFault(program.text(error, errorLength));
+    process.exitCode = errorLength > 0 ? UNREADABLE : status;
+    program.imports.page.end();
   },
 };
 // The library asks the system for streams that nothing is written to.
