@@ -27,6 +27,7 @@ TEST(Comentario, GivesAHintOrARemarkOnAWord) {
         TextView word;
         int p, level, zarpis;
         TextView line;
+        int plenos = 0;
     };
     Escena scene;
     auto& z = scene.z;
@@ -44,16 +45,34 @@ TEST(Comentario, GivesAHintOrARemarkOnAWord) {
                           {u"CAAC", 8, 1, 0, u"¡VAMOS, QUE SEGURO QUE ÉSTA ES FACILITA!"},
                           {u"TRAVIESO", 12, 1, 0, u"TE RECUERDO QUE NO TIENES COMODINES."},
                           {u"TRAVIESO", 16, 1, 185, u"¡MUY BIEN, YA LLEVAS 185 ZARPIS!"},
-                          {u"TRAVIESO", 16, 1, 186, u"¡MAGNÍFICO, YA LLEVAS 186 ZARPIS!"}}) {
+                          {u"TRAVIESO", 16, 1, 186, u"¡MAGNÍFICO, YA LLEVAS 186 ZARPIS!"},
+                          {u"TRAVIESO", 14, 1, 0, u"¡UN PLENO MÁS Y COMODÍN EXTRA, JOSÉ!", 8},
+                          {u"TRAVIESO", 14, 1, 0, u"CON PACIENCIA Y TESÓN, LO CONSEGUIRÁS.", 9}}) {
         z.PalabraClave = c.word;
         z.LargoPalabra = static_cast<Integer>(c.word.size());
         z.NúmNivel = static_cast<Integer>(c.level);
         z.puntos = static_cast<Integer>(c.zarpis);
+        z.plenos = static_cast<Integer>(c.plenos);
         z.AzarPrevio1 = z.AzarPrevio2 = z.AzarPrevio3 = 0;
         scene.Draw(c.p, 23);
         scene.comentario.ComentarioPalabra();
         EXPECT_EQ(ToUtf8(z.picZarpi.ToolTipText), ToUtf8(c.line));
     }
+}
+
+TEST(Comentario, DrawsNoneOfTheLastThreeRemarks) {
+    Escena scene;
+    scene.z.NúmPalabra = 1;
+    const auto remark = [&scene](std::initializer_list<int> draws) {
+        for (const int draw : draws) scene.Draw(draw, 23);
+        scene.comentario.ComentarioPalabra();
+        return scene.z.AzarComentario;
+    };
+    EXPECT_EQ(remark({5}), 5);
+    EXPECT_EQ(remark({5, 6}), 6);
+    EXPECT_EQ(remark({5, 6, 7}), 7);
+    EXPECT_EQ(remark({7, 6, 5, 8}), 8);
+    EXPECT_EQ(remark({6, 8, 7, 5}), 5);
 }
 
 TEST(Comentario, AnswersToTheEdgeAndTheFall) {

@@ -85,12 +85,14 @@ end
 TEST(Player, TellsFailedExpectationsAndGoesOn) {
     const auto [outcome, answers] = Play(
         "start\nexpect forms Zarpi\nexpect frmPresenta.Caption \"x\"\nexpect log beep\nexpect no log end\nexpect size "
-        "Ultimo.dat 5\nexpect files UltCas.dat UltCeI.dat UltCoI.dat UltIng.dat UltIyC.dat UltPart.dat Ultimo.dat\n");
+        "Ultimo.dat 5\nexpect files UltCas.dat UltCeI.dat UltCoI.dat UltIng.dat UltIyC.dat UltPart.dat Ultimo.dat\n"
+        "key a\nkey Ctrl+S\nexpect no log end\n");
     EXPECT_EQ(outcome, Outcome::ExpectFailed);
     EXPECT_EQ(answers,
               "line 2: expected forms = Zarpi, found frmPresenta\n"
               "line 3: expected frmPresenta.Caption = \"x\", found \"Juego de Zarpi (pulsa una tecla)\"\n"
-              "line 4: expected log beep, found it is not there\n");
+              "line 4: expected log beep, found it is not there\n"
+              "line 10: expected no log end, found it is there\n");
 }
 
 TEST(Player, RefusesScriptsThatNameWhatIsNot) {
