@@ -9,7 +9,7 @@
 #include "desktop/windows/Look.h"
 #include "hand/ReaderHand.h"
 #include "hand/WidgetEye.h"
-#include "headless/FolderFiles.h"
+#include "headless/ScriptFolder.h"
 #include "script.h"
 
 int main(int argc, char** argv) {
@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     platform::desktop::SetLook(scale);
     platform::desktop::SetAssetFolders({".", QCoreApplication::applicationDirPath() + "/" ZARPI_ASSETS});
 
-    platform::headless::FolderFiles files;
+    platform::headless::ScriptFolder files;
     platform::desktop::WindowDisplay display(scale);
     platform::headless::Headless headless(files, &display);
     display.Attach(headless.screen);

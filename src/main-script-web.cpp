@@ -42,6 +42,7 @@ namespace {
 class ScriptFolder : public Files, public headless::Folder {
 public:
     bool Exists(std::string_view name) override { return !IsBlocked(name) && files_.Exists(name); }
+    bool IsLink(std::string_view name) override { return files_.IsLink(name); }
     std::optional<std::string> Read(std::string_view name) override { return files_.Read(name); }
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override {
         return IsBlocked(name) ? std::nullopt : files_.ReadAt(name, offset, length);
@@ -51,6 +52,9 @@ public:
     }
     bool Replace(std::string_view name, std::string_view content) override {
         return !IsBlocked(name) && files_.Replace(name, content);
+    }
+    bool Rename(std::string_view from, std::string_view to) override {
+        return !IsBlocked(to) && files_.Rename(from, to);
     }
     bool Remove(std::string_view name) override { return files_.Remove(name); }
 

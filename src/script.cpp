@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "headless/FolderFiles.h"
+#include "headless/ScriptFolder.h"
 #include "records/Archivos.h"
 #include "shell/Juego.h"
 
@@ -55,7 +55,7 @@ int Fail(const fs::path& program, std::string_view why) {
 void Enter(const Arguments& arguments) {
     if (arguments.isNew) fs::create_directories(arguments.folder);
     if (!arguments.folder.empty()) fs::current_path(arguments.folder);
-    FolderFiles files;
+    ScriptFolder files;
     if (arguments.isNew && !juego::EstrenarCarpeta(files)) throw std::runtime_error("the new folder cannot be written");
 }
 

@@ -11,16 +11,17 @@
 #include "desktop/access/Announcer.h"
 #include "desktop/keys/LostReleases.h"
 #include "desktop/system/Doorbell.h"
-#include "desktop/system/DurableFiles.h"
 #include "desktop/system/Heartbeat.h"
 #include "desktop/system/MediaPlayer.h"
 #include "desktop/system/SystemServices.h"
 #include "desktop/system/SystemWishes.h"
+#include "desktop/values/Strings.h"
 #include "desktop/windows/FormPrinter.h"
 #include "desktop/windows/Look.h"
 #include "desktop/windows/MessageDialogs.h"
 #include "desktop/windows/WindowDisplay.h"
 #include "platform/Generator.h"
+#include "storage/FolderFiles.h"
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -38,6 +39,11 @@ void ReturnLargeMemory() {
     mallopt(M_TRIM_THRESHOLD, kLarge);
 #endif
 }
+
+constexpr TextView kTaken = u"El juego ya está abierto en otra ventana.";
+constexpr TextView kTemporary =
+    u"Puedes jugar, pero lo que guardes se perderá al cerrar el juego: no se puede escribir en la carpeta de las "
+    u"partidas, ";
 
 std::uint64_t Seed() {
     std::random_device device;
@@ -75,7 +81,7 @@ private:
     SystemClock clock_;
     SystemBrowser browser_;
     Generator random_{Seed()};
-    DurableFiles files_;
+    storage::FolderFiles files_;
     SystemWishes wishes_;
     Doorbell doorbell_;
     Announcer speech_{[this] { return display_.FrontWindow(); }};
@@ -102,14 +108,20 @@ Desktop::Parts::Parts(int& argc, char** argv)
 
 bool Desktop::Parts::EnterFolder(const GameFolder::Keeper& keeper) {
     QApplication::setApplicationName("zarpi");
-    const bool free = folder_.Enter(GameFolder::SystemPlaces(), keeper);
+    const GameFolder::Places places = GameFolder::SystemPlaces();
+    GameFolder::Entry entry = folder_.Enter(places, keeper);
+    if (entry == GameFolder::Entry::Taken) {
+        if (Doorbell::Ring()) return false;
+        // The game that had the folder may have ended instead of answering.
+        entry = folder_.Enter(places, keeper);
+    }
     display_.Kit().Sizing.Recall();
     SetLook(display_.Kit().Scale);
-    if (!free && !Doorbell::Ring()) {
-        QApplication::setWindowIcon(display_.Kit().Pictures.Stored("icon", {64, 64}));
-        ShowWarning(nullptr, u"El juego ya está abierto en otra ventana.", u"Juego de Zarpi");
-    }
-    return free;
+    if (entry == GameFolder::Entry::Free) return true;
+    QApplication::setWindowIcon(display_.Kit().Pictures.Stored("icon", {64, 64}));
+    const bool isTaken = entry == GameFolder::Entry::Taken;
+    ShowWarning(nullptr, isTaken ? Text(kTaken) : Text(kTemporary) + FromQt(places.Own), u"Juego de Zarpi");
+    return !isTaken;
 }
 
 /// The texts that Qt itself brings to dialogs and menus of text boxes.

@@ -124,7 +124,11 @@ public:
 
     /// Whether a file of this name is there, readable or not; also true where that cannot be told. A folder is no file.
     virtual bool Exists(std::string_view name) = 0;
-    /// The whole content; nothing when the file cannot be read, be it there or not.
+    /// Whether the name is a link, so that what is written under it lands in a file that may lie elsewhere.
+    virtual bool IsLink(std::string_view name) = 0;
+    /// More than the longest file that is read as a whole.
+    static constexpr std::size_t kLongestRead = std::size_t{4} << 20U;
+    /// The content, of a longer file the first kLongestRead bytes; nothing when it cannot be read, be it there or not.
     virtual std::optional<std::string> Read(std::string_view name) = 0;
     /// Up to `length` bytes from an offset, fewer at the end of the file. A file that is not there is created empty.
     /// Nothing when that fails.
@@ -134,6 +138,8 @@ public:
     virtual bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) = 0;
     /// Replaces the content in one step: at any moment the file holds the old content or the new. False on failure.
     virtual bool Replace(std::string_view name, std::string_view content) = 0;
+    /// Gives a file another name. A link is renamed itself. False on failure, also when anything has that name already.
+    virtual bool Rename(std::string_view from, std::string_view to) = 0;
     /// Removes a file; that there is none of this name is no failure. False if it is still there.
     virtual bool Remove(std::string_view name) = 0;
 };

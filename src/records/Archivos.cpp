@@ -6,13 +6,12 @@
 namespace juego {
 
 std::optional<int> NúmeroDeContador(std::string_view content, const Par& par) {
-    if (content.empty()) return std::nullopt;
-    const auto first = content.find_first_not_of(' ');
-    if (first == std::string_view::npos || content[first] == '-') return 0;
-    int count = 0;
-    const auto result = std::from_chars(content.data() + first, content.data() + content.size(), count);
-    const bool tooLong = result.ec == std::errc::result_out_of_range;
-    if (!tooLong && count <= par.Límite) return count;
+    content.remove_prefix(std::min(content.find_first_not_of(' '), content.size()));
+    unsigned count = 0;
+    const auto result = std::from_chars(content.data(), content.data() + content.size(), count);
+    if (result.ec == std::errc::invalid_argument) return std::nullopt;
+    const bool fits = result.ec == std::errc() && count <= static_cast<unsigned>(par.Límite);
+    if (fits) return static_cast<int>(count);
     return par.Límite == LímiteFilas ? std::optional(LímiteFilas) : std::nullopt;
 }
 
@@ -28,8 +27,9 @@ bool EscribirContador(Files& files, const Par& par, int count) {
 }
 
 bool HayArchivos(Files& files) {
-    return std::ranges::any_of(
-        Pares, [&files](const Par& par) { return files.Exists(par.Contador) || files.Exists(par.Registros); });
+    return std::ranges::any_of(Pares, [&files](const Par& par) {
+        return files.Exists(par.Registros) || (files.Exists(par.Contador) && LeerContador(files, par) != 0);
+    });
 }
 
 bool EstrenarCarpeta(Files& files) {

@@ -40,8 +40,9 @@ inline constexpr std::array<Par, 5> ArchivosHonor = {{
 inline constexpr std::array<Par, 7> Pares = {ArchivoGuardadas, ArchivoÚltimas,   ArchivosHonor[0], ArchivosHonor[1],
                                              ArchivosHonor[2], ArchivosHonor[3], ArchivosHonor[4]};
 
-/// The number in the content of a counter, 0 to the limit of its pair; nothing when the content is empty. A number
-/// above ten in a list of ten counts as ten; one that no 16-bit counter holds is a failure.
+/// The number in the content of a counter, 0 to the limit of its pair; nothing when it does not begin with one, behind
+/// blanks: such a counter is damaged, and taken for 0 it would let the next change overwrite records. A number above
+/// ten in a list of ten counts as ten; one that no 16-bit counter holds is a failure.
 std::optional<int> NúmeroDeContador(std::string_view content, const Par& par);
 
 /// The number in the counter of a pair; nothing also when the file cannot be read.
@@ -50,7 +51,7 @@ std::optional<int> LeerContador(Files& files, const Par& par);
 /// Replaces the counter of a pair in one step. False on failure.
 bool EscribirContador(Files& files, const Par& par, int count);
 
-/// Whether anything of the game's is stored in the folder.
+/// Whether a player has stored anything in the folder: counters of 0 alone are what every new one begins with.
 bool HayArchivos(Files& files);
 
 /// Furnishes a game folder: a pair of which neither file is there gets its counter, with 0. A pair that has lost one of

@@ -23,14 +23,16 @@ std::string Entry(std::string_view name, std::string_view content) {
     return std::string(name) + ' ' + std::to_string(content.size()) + '\n' + std::string(content);
 }
 
-/// The journal of a pair as it is now; nothing if it cannot be read.
+/// The journal of a pair as it is now; nothing if the pair cannot be read, or is longer than a journal is read.
 std::optional<std::string> JournalOf(Files& files, const Par& par) {
     const auto counter = files.Read(par.Contador);
     const auto count = counter ? NúmeroDeContador(*counter, par) : std::nullopt;
     if (!count) return std::nullopt;
     const auto records = files.ReadAt(par.Registros, 0, static_cast<std::size_t>(*count) * par.Largo);
     if (!records) return std::nullopt;
-    return Entry(par.Registros, *records) + Entry(par.Contador, *counter);
+    std::string journal = Entry(par.Registros, *records) + Entry(par.Contador, *counter);
+    if (journal.size() > Files::kLongestRead) return std::nullopt;
+    return journal;
 }
 
 /// Takes the entry of a file from the head of a journal: its content. Nothing if it is none, or longer than the file
@@ -69,6 +71,11 @@ std::optional<Contenido> Parse(std::string_view journal) {
     return std::nullopt;
 }
 
+/// Whether a file of the pair is a link, by which a journal would write outside the folder.
+bool LeadsAway(Files& files, const Par& par) {
+    return files.IsLink(par.Registros) || files.IsLink(par.Contador);
+}
+
 /// Gives the pair back what it held. What stands there already is not written again: a full disk and a file that may
 /// only be read let it stand. Nothing is deleted; where records were missing there are blank ones, which read the same.
 bool Restore(Files& files, const Contenido& noted) {
@@ -83,14 +90,23 @@ bool Restore(Files& files, const Contenido& noted) {
 }
 
 /// Gives a journal that cannot be trusted another name, one that is free.
-bool SetAside(Files& files, const std::string& journal) {
+bool SetAside(Files& files) {
     for (int n = 1; n <= kMostSetAside; ++n) {
         std::string name(kSetAside);
         if (n > 1) name += std::to_string(n);
-        const bool kept = files.Read(name) == journal || (!files.Exists(name) && files.Replace(name, journal));
-        if (kept) return files.Remove(kName);
+        if (files.Rename(kName, name)) return true;
     }
     return false;
+}
+
+/// Takes back the change of a journal that waits.
+bool TakeBack(Files& files, bool throughLinks) {
+    const auto journal = files.Read(kName);
+    if (!journal) return !files.Exists(kName);
+    const auto noted = Parse(*journal);
+    if (!noted) return SetAside(files);
+    if (!throughLinks && LeadsAway(files, *noted->Cuál)) return false;
+    return Restore(files, *noted) && files.Remove(kName);
 }
 
 }  // namespace
@@ -103,8 +119,8 @@ Diario::Diario(Files& files, const Par& par) : files_(files) {
 }
 
 Diario::~Diario() {
-    // What cannot be taken back now stays noted.
-    if (noted_) static_cast<void>(Recuperar(files_));
+    // What cannot be taken back now stays noted. This change has gone through the player's links, and so goes back.
+    if (noted_) static_cast<void>(TakeBack(files_, true));
 }
 
 bool Diario::Confirmar() {
@@ -114,11 +130,7 @@ bool Diario::Confirmar() {
 }
 
 bool Diario::Recuperar(Files& files) {
-    const auto journal = files.Read(kName);
-    if (!journal) return !files.Exists(kName);
-    const auto noted = Parse(*journal);
-    if (!noted) return SetAside(files, *journal);
-    return Restore(files, *noted) && files.Remove(kName);
+    return TakeBack(files, false);
 }
 
 std::optional<int> ContarParaCambiar(Files& files, const Par& par) {

@@ -25,7 +25,9 @@ public:
     bool Confirmar();
 
     /// Takes back the change of a journal that waits. True when none waits any more. Whatever lies in its place without
-    /// being one that the game can have written is set aside as it is, as `Diario.mal`, and nothing of it is done.
+    /// being one that the game can have written is set aside as it is, as `Diario.mal`, and nothing of it is done. One
+    /// about a file that is a link waits until the player has put the file itself there: who wrote it is not known, and
+    /// the file that the link leads to lies elsewhere.
     [[nodiscard]] static bool Recuperar(Files& files);
 
 private:

@@ -2,6 +2,11 @@
 
 namespace juego {
 
+std::optional<std::vector<PartidaGuardada>> LeerPartidas(Files& files, int count) {
+    if (!Diario::Recuperar(files)) return std::nullopt;
+    return ArchivoRegistros<PartidaGuardada>(files, ArchivoGuardadas).LeerPrimeros(count);
+}
+
 std::optional<PartidaGuardada> LeerPartida(Files& files, int k) {
     if (!Diario::Recuperar(files)) return std::nullopt;
     return ArchivoRegistros<PartidaGuardada>(files, ArchivoGuardadas).Leer(k);

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <vector>
+
 #include "records/Registros.h"
 
 namespace juego {
+
+/// The first `count` stored games. Nothing when they cannot be read, or while a change waits that has to be taken back
+/// first.
+std::optional<std::vector<PartidaGuardada>> LeerPartidas(Files& files, int count);
 
 /// Stored game k. Nothing when it cannot be read, or while a change waits that has to be taken back first.
 std::optional<PartidaGuardada> LeerPartida(Files& files, int k);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "records/Archivos.h"
 #include "records/Diario.h"
@@ -77,6 +78,17 @@ public:
         Registro record;
         Decodificar(*std::move(bytes), record);
         return record;
+    }
+
+    /// The first `count` records, in one read. Nothing when the file cannot be read.
+    std::optional<std::vector<Registro>> LeerPrimeros(int count) {
+        const auto bytes = files.ReadAt(name, 0, Length(count));
+        if (!bytes) return std::nullopt;
+        std::vector<Registro> records(static_cast<std::size_t>(count));
+        for (std::size_t i = 0; i < records.size(); ++i) {
+            Decodificar(bytes->substr(std::min(i * Registro::Largo, bytes->size()), Registro::Largo), records[i]);
+        }
+        return records;
     }
 
     /// False on failure.

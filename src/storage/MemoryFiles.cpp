@@ -10,7 +10,7 @@ bool MemoryFiles::Exists(std::string_view name) {
 
 std::optional<std::string> MemoryFiles::Read(std::string_view name) {
     const auto file = files_.find(name);
-    return file == files_.end() ? std::nullopt : std::optional(file->second);
+    return file == files_.end() ? std::nullopt : std::optional(file->second.substr(0, kLongestRead));
 }
 
 std::optional<std::string> MemoryFiles::ReadAt(std::string_view name, std::int64_t offset, std::size_t length) {
@@ -32,6 +32,11 @@ bool MemoryFiles::Replace(std::string_view name, std::string_view content) {
     file = content;
     Tell(name, &file);
     return true;
+}
+
+bool MemoryFiles::Rename(std::string_view from, std::string_view to) {
+    const auto file = files_.find(from);
+    return file != files_.end() && !Exists(to) && Replace(to, file->second) && Remove(from);
 }
 
 bool MemoryFiles::Remove(std::string_view name) {

@@ -20,10 +20,12 @@ public:
         : files_(std::move(files)), changed_(std::move(changed)) {}
 
     bool Exists(std::string_view name) override;
+    bool IsLink(std::string_view /*name*/) override { return false; }
     std::optional<std::string> Read(std::string_view name) override;
     std::optional<std::string> ReadAt(std::string_view name, std::int64_t offset, std::size_t length) override;
     bool WriteAt(std::string_view name, std::int64_t offset, std::string_view bytes) override;
     bool Replace(std::string_view name, std::string_view content) override;
+    bool Rename(std::string_view from, std::string_view to) override;
     bool Remove(std::string_view name) override;
 
     /// The names of all files, sorted.

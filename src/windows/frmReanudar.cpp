@@ -36,13 +36,12 @@ void frmReanudar::Form_Load() {
     NombreAnterior = z.Nombre;
     último = NúmeroOAviso(z, ContarParaCambiar(files, ArchivoGuardadas));
     lstLista.List = {u"PARTIDAS"};
-    for (int k = 1; k <= último; ++k) {
-        const auto game = LeerPartida(files, k);
-        if (!game) {
-            MostrarErrorAlFrente(z);
-            break;
+    if (último > 0) {
+        const auto games = LeerPartidas(files, último);
+        if (!games) MostrarErrorAlFrente(z);
+        for (const PartidaGuardada& game : games.value_or(std::vector<PartidaGuardada>())) {
+            lstLista.List.push_back(game.Nombre);
         }
-        lstLista.List.push_back(game->Nombre);
     }
     lstLista.ListIndex = 1;
     lstLista_Click();

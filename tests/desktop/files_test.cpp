@@ -1,27 +1,16 @@
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <future>
 #include <gtest/gtest.h>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#elif defined(Q_OS_WIN)
-#include <windows.h>
-#endif
-
-#include "ContratoArchivos.h"
 #include "Rig.h"
 #include "desktop/system/Doorbell.h"
-#include "desktop/system/DurableFiles.h"
 #include "desktop/system/GameFolder.h"
+#include "records/Archivos.h"
 
 namespace platform::desktop {
 namespace {
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Durable, ContratoArchivos, DurableFiles);
 
 /// An empty current folder, for the length of a test.
 struct Folder : testing::Test {
@@ -31,40 +20,8 @@ struct Folder : testing::Test {
     const QString before = QDir::currentPath();
     const QTemporaryDir folder;
     const AssetsFrom assets{folder.path()};
-    DurableFiles files;
+    storage::FolderFiles files;
 };
-
-#ifdef Q_OS_UNIX
-TEST_F(Folder, AFullDiskTakesNothingAway) {
-    ASSERT_TRUE(files.Replace("Ultimo.dat", " 12 \r\n"));
-    ASSERT_TRUE(files.WriteAt("CeI.rnd", 0, "0123456789"));
-    // No file can grow beyond a few bytes, as on a disk that is full.
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{2, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    EXPECT_FALSE(files.Replace("Ultimo.dat", " 13 \r\n"));
-    EXPECT_FALSE(files.WriteAt("CeI.rnd", 10, "x"));
-    setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_EQ(files.Read("Ultimo.dat"), " 12 \r\n");
-    EXPECT_EQ(files.Read("CeI.rnd"), "0123456789");
-}
-#endif
-
-#ifdef Q_OS_WIN
-TEST_F(Folder, AFileThatAnotherProgramHoldsKeepsItsContent) {
-    ASSERT_TRUE(files.Replace("Último.dat", " 12 \r\n"));
-    HANDLE held = CreateFileW(L"Último.dat", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    EXPECT_FALSE(files.Replace("Último.dat", " 13 \r\n"));
-    EXPECT_FALSE(files.WriteAt("Último.dat", 0, "x"));
-    EXPECT_FALSE(files.Remove("Último.dat"));
-    CloseHandle(held);
-    EXPECT_EQ(files.Read("Último.dat"), " 12 \r\n");
-    EXPECT_EQ(QDir().entryList(QDir::Files | QDir::Hidden).size(), 1);
-}
-#endif
 
 /// Folders of an installed game, and what is stored in them.
 struct Installed : Folder {
@@ -74,7 +31,7 @@ struct Installed : Folder {
     /// The folder that is entered from "here".
     QString Entered() {
         QDir::setCurrent(folder.filePath("here"));
-        EXPECT_TRUE(GameFolder().Enter(places, keeper));
+        EXPECT_EQ(GameFolder().Enter(places, keeper), GameFolder::Entry::Free);
         return QDir(folder.path()).relativeFilePath(QDir::currentPath());
     }
     void Store(const char* name, const char* content) {
@@ -92,17 +49,41 @@ TEST_F(Installed, PlaysWhereTheGameIsStored) {
     EXPECT_EQ(files.Read("UltCeI.dat"), " 0 \r\n");
     EXPECT_EQ(QDir().entryList(QDir::Files).size(), 7);
     EXPECT_TRUE(files.Remove("UltCeI.dat"));
-    EXPECT_EQ(Entered(), "a/ñandú");
-    EXPECT_TRUE(files.Exists("UltCeI.dat")) << "there are no records yet that it could belong to";
-    EXPECT_TRUE(files.Remove("UltCeI.dat"));
     EXPECT_TRUE(files.Replace("CeI.rnd", "records"));
+    EXPECT_TRUE(files.Replace(storage::FolderFiles::kBeside, "left by a program that was killed"));
     EXPECT_EQ(Entered(), "a/ñandú");
     EXPECT_FALSE(files.Exists("UltCeI.dat")) << "a damaged folder is played in and told";
-    Store("program/Part.rnd", "");
+    EXPECT_FALSE(files.Exists(storage::FolderFiles::kBeside));
+    Store("program/Ultimo.dat", " 0 \r\n");
+    EXPECT_EQ(Entered(), "a/ñandú") << "an older build leaves a counter of 0";
+    Store("program/Ultimo.dat", " 1 \r\n");
     EXPECT_EQ(Entered(), "program");
-    Store("here/Ultimo.dat", " 0 \r\n");
+    EXPECT_EQ(files.Read("UltPart.dat"), " 0 \r\n") << "a copy of a part of the records is complete";
+    Store("here/Part.rnd", "");
     EXPECT_EQ(Entered(), "here");
 }
+
+TEST_F(Installed, WithoutAFolderOfItsOwnItPlaysInOneThatGoesAway) {
+    Store("a", "a file in the way");
+    GameFolder game;
+    QDir::setCurrent(folder.filePath("here"));
+    EXPECT_EQ(game.Enter(places, keeper), GameFolder::Entry::Temporary);
+    const QDir temporary = QDir::current();
+    EXPECT_EQ(files.Read("Ultimo.dat"), " 0 \r\n");
+    game.Leave();
+    EXPECT_FALSE(temporary.exists());
+    EXPECT_TRUE(QDir(folder.filePath("here")).isEmpty(QDir::Files | QDir::Hidden));
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(Folder, ARelativeFolderOfTheSystemsIsNotHonoured) {
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", "data");
+    EXPECT_TRUE(QDir::isAbsolutePath(GameFolder::SystemPlaces().Own));
+    EXPECT_FALSE(GameFolder::SystemPlaces().Own.startsWith(QDir::currentPath()));
+    qputenv("XDG_DATA_HOME", before);
+}
+#endif
 
 TEST_F(Installed, ThePlayersOwnPictureWins) {
     const auto read = [](TextView name) {
@@ -122,42 +103,37 @@ TEST_F(Installed, ThePlayersOwnPictureWins) {
 }
 
 TEST_F(Folder, OneGameAFolder) {
-    const GameFolder::Keeper keeper = {.Holds = [](Files&) { return true; }, .Furnish = {}};
+    const GameFolder::Keeper keeper = {.Holds = [](Files&) { return true; }, .Furnish = [](Files&) { return true; }};
     GameFolder first;
-    EXPECT_TRUE(first.Enter({}, keeper));
-    EXPECT_FALSE(GameFolder().Enter({}, keeper));
+    EXPECT_EQ(first.Enter({}, keeper), GameFolder::Entry::Free);
+    EXPECT_EQ(GameFolder().Enter({}, keeper), GameFolder::Entry::Taken);
     first.Leave();
-    EXPECT_TRUE(GameFolder().Enter({}, keeper));
+    EXPECT_EQ(GameFolder().Enter({}, keeper), GameFolder::Entry::Free);
     EXPECT_EQ(QDir::current(), QDir(folder.path()));
 }
 
 TEST_F(Folder, ASecondStartCallsTheFirst) {
-    EXPECT_FALSE(Doorbell::Ring()) << "nobody is there";
-    EXPECT_TRUE(QDir().entryList(QDir::Files | QDir::Hidden).isEmpty());
+    auto early = std::async(std::launch::async, [] { return Doorbell::Ring(); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return files.Exists(".zarpi.timbre"); }));
     Doorbell bell;
     int called = 0;
     bell.Answer([&called] { ++called; });
-    for (const int times : {1, 2}) {
-        auto second = std::async(std::launch::async, Doorbell::Ring);
+    EXPECT_EQ(called, 1) << "somebody has rung while the game was starting";
+    EXPECT_TRUE(early.get());
+    for (const int times : {2, 3}) {
+        auto second = std::async(std::launch::async, [] { return Doorbell::Ring(); });
         EXPECT_TRUE(QTest::qWaitFor([&] { return called == times; }));
         EXPECT_TRUE(second.get());
     }
     ASSERT_TRUE(files.Replace("CeI.rnd", "records"));
     QTest::qWait(50);
-    EXPECT_EQ(called, 2) << "other files are no bell";
+    EXPECT_EQ(called, 3) << "other files are no bell";
 }
 
-TEST_F(Folder, ALockOfAnotherMachineHoldsWhileItsGameIsAlive) {
-    const GameFolder::Keeper keeper = {.Holds = [](Files&) { return true; }, .Furnish = {}};
-    QFile lock(".zarpi.lock");
-    for (const int minutes : {2, 10}) {
-        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-        lock.write("1\nzarpi\notra-máquina\n" + QByteArray(36, 'a') + "\n" + QByteArray(36, 'b') + "\n");
-        lock.flush();
-        lock.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minutes), QFile::FileModificationTime);
-        lock.close();
-        EXPECT_EQ(GameFolder().Enter({}, keeper), minutes == 10) << minutes;
-    }
+TEST_F(Folder, ABellThatNobodyAnsweredIsInNobodysWay) {
+    ASSERT_TRUE(files.Replace(".zarpi.timbre", "left"));
+    EXPECT_FALSE(Doorbell::Ring(std::chrono::milliseconds(50))) << "nobody is there";
+    EXPECT_TRUE(QDir().entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
 }  // namespace

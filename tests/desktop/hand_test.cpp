@@ -16,8 +16,8 @@
 #include "desktop/views/PictureView.h"
 #include "hand/WidgetEye.h"
 #include "hand/WidgetHand.h"
-#include "headless/FolderFiles.h"
 #include "headless/Player.h"
+#include "headless/ScriptFolder.h"
 #include "storage/MemoryFiles.h"
 
 namespace platform::hand {
@@ -64,7 +64,7 @@ struct AtTheWindow : testing::Test {
     const QTemporaryDir folder;
     const desktop::AssetsFrom assets{folder.path()};
     storage::MemoryFiles files;
-    headless::FolderFiles scriptFolder;
+    headless::ScriptFolder scriptFolder;
     Sample form;
     int clicks = 0;
     desktop::WindowDisplay display{desktop::Scale(1.25)};

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-#include "headless/FolderFiles.h"
+#include "headless/ScriptFolder.h"
 #include "records/Archivos.h"
 
 /// A game folder of its own for a test, as an installation leaves it; the current folder while it lives.
@@ -16,7 +16,7 @@ public:
             folder_ = std::filesystem::temp_directory_path() / ("zarpi-" + std::to_string(random()));
         } while (!std::filesystem::create_directory(folder_));
         std::filesystem::current_path(folder_);
-        platform::headless::FolderFiles files;
+        platform::headless::ScriptFolder files;
         juego::EstrenarCarpeta(files);
     }
     ~Carpeta() {

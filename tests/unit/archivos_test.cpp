@@ -4,16 +4,12 @@
 #include <optional>
 
 #include "Carpeta.h"
-#include "ContratoArchivos.h"
-#include "headless/FolderFiles.h"
 #include "records/Registros.h"
 
 namespace juego {
 namespace {
 
-using platform::headless::FolderFiles;
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Folder, ContratoArchivos, FolderFiles);
+using platform::storage::FolderFiles;
 
 TEST(Contador, ReadsWhateverStandsInTheFile) {
     const Carpeta folder;
@@ -23,20 +19,21 @@ TEST(Contador, ReadsWhateverStandsInTheFile) {
         std::optional<int> games;  ///< saved games, bounded by 16 bits
         std::optional<int> rows;   ///< a list of ten
     };
-    for (const auto& [content, games, rows] : std::initializer_list<Case>{{" 0 \r\n", 0, 0},
-                                                                          {" 12 \r\n", 12, 10},
-                                                                          {"7", 7, 7},
-                                                                          {"  3,9", 3, 3},
-                                                                          {"", std::nullopt, std::nullopt},
-                                                                          {"\r\n", 0, 0},
-                                                                          {"   ", 0, 0},
-                                                                          {"x5", 0, 0},
-                                                                          {"-4", 0, 0},
-                                                                          {"-99999999999999999999", 0, 0},
-                                                                          {"32767", 32767, 10},
-                                                                          {"32768", std::nullopt, 10},
-                                                                          {"99999999999999999999", std::nullopt, 10},
-                                                                          {std::string(3, '\0'), 0, 0}}) {
+    for (const auto& [content, games, rows] :
+         std::initializer_list<Case>{{" 0 \r\n", 0, 0},
+                                     {" 12 \r\n", 12, 10},
+                                     {"7", 7, 7},
+                                     {"  3,9", 3, 3},
+                                     {"", std::nullopt, std::nullopt},
+                                     {"\r\n", std::nullopt, std::nullopt},
+                                     {"   ", std::nullopt, std::nullopt},
+                                     {"x5", std::nullopt, std::nullopt},
+                                     {"-4", std::nullopt, std::nullopt},
+                                     {"\xEF\xBB\xBF 5", std::nullopt, std::nullopt},
+                                     {"32767", 32767, 10},
+                                     {"32768", std::nullopt, 10},
+                                     {"99999999999999999999", std::nullopt, 10},
+                                     {std::string(3, '\0'), std::nullopt, std::nullopt}}) {
         ASSERT_TRUE(files.Replace("Ultimo.dat", content));
         ASSERT_TRUE(files.Replace("UltPart.dat", content));
         EXPECT_EQ(LeerContador(files, ArchivoGuardadas), games) << content;
@@ -47,6 +44,23 @@ TEST(Contador, ReadsWhateverStandsInTheFile) {
     EXPECT_FALSE(std::filesystem::exists("Ultimo.dat"));
     ASSERT_TRUE(EscribirContador(files, ArchivoGuardadas, 12));
     EXPECT_EQ(files.Read("Ultimo.dat"), " 12 \r\n");
+}
+
+TEST(Carpeta, IsFurnishedPairByPair) {
+    const Carpeta folder;
+    FolderFiles files;
+    EXPECT_FALSE(HayArchivos(files)) << "counters of 0 alone";
+    ASSERT_TRUE(files.Replace("UltCas.dat", ""));
+    EXPECT_TRUE(HayArchivos(files)) << "a counter that cannot be read";
+    ASSERT_TRUE(files.Replace("UltCas.dat", " 1 \r\n"));
+    EXPECT_TRUE(HayArchivos(files));
+    ASSERT_TRUE(files.Remove("UltCas.dat"));
+    ASSERT_TRUE(files.Remove("UltCeI.dat"));
+    ASSERT_TRUE(files.Replace("CeI.rnd", "records"));
+    EXPECT_TRUE(HayArchivos(files));
+    EXPECT_TRUE(EstrenarCarpeta(files));
+    EXPECT_EQ(files.Read("UltCas.dat"), " 0 \r\n");
+    EXPECT_FALSE(files.Exists("UltCeI.dat")) << "its records have lost their counter";
 }
 
 TEST(Registros, HaveTheirBytes) {

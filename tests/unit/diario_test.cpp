@@ -13,6 +13,7 @@
 namespace juego {
 namespace {
 
+using platform::storage::FolderFiles;
 using platform::storage::MemoryFiles;
 
 /// Files on a disk whose faults come and go, under a program that can be stopped.
@@ -23,6 +24,7 @@ public:
     using Plan = std::function<Fault(int operation)>;
 
     bool Exists(std::string_view name) override { return !Works() || inner.Exists(name); }
+    bool IsLink(std::string_view name) override { return inner.IsLink(name); }
     std::optional<std::string> Read(std::string_view name) override {
         return Works() ? inner.Read(name) : std::nullopt;
     }
@@ -37,6 +39,7 @@ public:
     bool Replace(std::string_view name, std::string_view content) override {
         return Works() && !(full && inner.Exists(name)) && inner.Replace(name, content);
     }
+    bool Rename(std::string_view from, std::string_view to) override { return Works() && inner.Rename(from, to); }
     bool Remove(std::string_view name) override { return Works() && inner.Remove(name); }
 
     /// Of a program that has been stopped nothing more reaches the disk, until the next one starts.
@@ -207,7 +210,7 @@ TEST(Diario, OnAFullDiskAChangeThatFailsLeavesNothingBehind) {
 
 TEST(Diario, NothingIsChangedWhileOneWaits) {
     const Carpeta folder;
-    platform::headless::FolderFiles files;
+    FolderFiles files;
     Fill(files);
     const std::string before = SeenAll(files);
     std::filesystem::create_directory("CoI.rnd");  // in the way of its restoration
@@ -221,6 +224,53 @@ TEST(Diario, NothingIsChangedWhileOneWaits) {
     std::filesystem::remove("CoI.rnd");
     for (const Cambio change : kCambios) EXPECT_TRUE(change(files));
 }
+
+#ifdef __unix__
+/// A disk on which the board's records can be written, and its counter cannot.
+struct HalfADisk : FolderFiles {
+    bool Replace(std::string_view name, std::string_view content) override {
+        return name != ArchivosHonor[0].Contador && FolderFiles::Replace(name, content);
+    }
+};
+
+TEST(Diario, LeadsNoWriteOutOfTheFolder) {
+    namespace fs = std::filesystem;
+    const Carpeta folder;
+    FolderFiles files;
+    const std::string away(FilaHonor::Largo, 'a');
+    fs::create_directory("away");
+    ASSERT_TRUE(files.Replace("away/records", away));
+    ASSERT_TRUE(files.Replace("UltCeI.dat", " 1 \r\n"));
+    fs::create_symlink("away/records", "CeI.rnd");
+    // A change of the player's own goes through his link, and back if it fails.
+    EXPECT_TRUE(InsertarEnCuadro(files, ArchivosHonor[0], Row(u"Nueva", 98)));
+    ASSERT_TRUE(files.Replace("away/records", away));
+    HalfADisk half;
+    EXPECT_FALSE(InsertarEnCuadro(half, ArchivosHonor[0], Row(u"Nueva", 98)));
+    EXPECT_EQ(files.ReadAt("away/records", 0, away.size()), away);
+    EXPECT_FALSE(files.Exists("Diario.tmp"));
+    // A journal that was found does not, whichever of the two is the link.
+    const std::string journal = "CeI.rnd 3\nabcUltCeI.dat 5\n 1 \r\n";
+    ASSERT_TRUE(files.Replace("Diario.tmp", journal));
+    EXPECT_FALSE(Diario::Recuperar(files));
+    EXPECT_EQ(files.ReadAt("away/records", 0, away.size()), away);
+    fs::remove("CeI.rnd");
+    fs::rename("UltCeI.dat", "away/counter");
+    fs::create_symlink("away/counter", "UltCeI.dat");
+    EXPECT_FALSE(Diario::Recuperar(files));
+    EXPECT_EQ(files.Read("Diario.tmp"), journal);
+    fs::remove("UltCeI.dat");
+    EXPECT_TRUE(Diario::Recuperar(files));
+    EXPECT_EQ(files.Read("CeI.rnd")->substr(0, 4), "abc ");
+    // One that is not trusted is set aside beside a link that leads nowhere, however long it is.
+    fs::create_symlink("away/new", "Diario.mal");
+    ASSERT_TRUE(files.Replace("Diario.tmp", "none"));
+    fs::resize_file("Diario.tmp", std::size_t{1} << 30U);
+    EXPECT_TRUE(Diario::Recuperar(files));
+    EXPECT_FALSE(fs::exists("away/new"));
+    EXPECT_EQ(fs::file_size("Diario.mal2"), std::size_t{1} << 30U);
+}
+#endif
 
 TEST(Diario, IsNotTrusted) {
     const std::string row(FilaHonor::Largo, 'r');

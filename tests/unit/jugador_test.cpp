@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "Carpeta.h"
-#include "headless/FolderFiles.h"
 #include "headless/Player.h"
+#include "headless/ScriptFolder.h"
 #include "shell/Juego.h"
 
 using namespace platform::headless;
@@ -19,7 +19,7 @@ struct Played {
 
 Played Play(const std::string& script) {
     const Carpeta folder;
-    FolderFiles files;
+    ScriptFolder files;
     Headless headless(files);
     ScreenHand hand(headless.screen);
     juego::Juego juego(headless.Services());

@@ -1,6 +1,7 @@
 #include "desktop/sizes/Sizing.h"
 
 #include <QEvent>
+#include <QFileInfo>
 #include <QScreen>
 #include <QSettings>
 #include <algorithm>
@@ -13,8 +14,17 @@ namespace {
 constexpr Qt::WindowStates kFilling = Qt::WindowMaximized | Qt::WindowFullScreen;
 constexpr auto kAtRest = std::chrono::milliseconds(300);  // since the last change: the edge has been let go
 
+constexpr const char* kStored = "ventana.ini";
+
 QSettings Stored() {
-    return {"ventana.ini", QSettings::IniFormat};
+    return {kStored, QSettings::IniFormat};
+}
+
+/// Whether nothing lies in the place of the settings that would block, fill the memory or lead out of the folder.
+bool IsUsable() {
+    constexpr qint64 kLongest = 65536;
+    const QFileInfo file(kStored);
+    return !file.isSymLink() && (!file.exists() || (file.isFile() && file.size() <= kLongest));
 }
 
 Scale Smaller(const Scale& a, const Scale& b) {
@@ -30,6 +40,7 @@ Sizing::Sizing(Scale& scale) : scale_(scale) {
 }
 
 void Sizing::Recall() {
+    if (!IsUsable()) return;
     const QSettings stored = Stored();
     const double factor = stored.value("factor").toDouble();
     const bool isFactor = factor >= Scale::kLeast && factor <= Scale::kLargest;
@@ -78,6 +89,7 @@ void Sizing::Settle() {
 
 /// The factor that fills the screen is the screen's, not the player's.
 void Sizing::Remember() const {
+    if (!IsUsable()) return;
     const Qt::WindowStates state = main_->windowState() & kFilling;
     QSettings stored = Stored();
     stored.setValue("estado", state.toInt());

@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFile>
 #include <QThread>
 #include <utility>
 
@@ -14,9 +13,7 @@ namespace platform::desktop {
 
 namespace {
 
-QString Bell() {
-    return QDir::current().absoluteFilePath(".zarpi.timbre");
-}
+constexpr std::string_view kBell = ".zarpi.timbre";
 
 /// Some systems let a program come to the front by a token alone, which the second start was given.
 constexpr const char* kToken = "XDG_ACTIVATION_TOKEN";
@@ -27,33 +24,28 @@ void Doorbell::Answer(std::function<void()> come) {
     come_ = std::move(come);
     door_.addPath(QDir::currentPath());
     QObject::connect(&door_, &QFileSystemWatcher::directoryChanged, &door_, [this] { Look(); });
+    Look();
 }
 
-void Doorbell::Look() const {
-    QFile bell(Bell());
-    if (!bell.open(QIODevice::ReadOnly)) return;
-    const QByteArray token = bell.readAll();
-    bell.close();
-    if (!bell.remove()) return;
-    if (!token.isEmpty()) qputenv(kToken, token);
+void Doorbell::Look() {
+    const auto token = files_.Read(kBell);
+    if (!token || !files_.Remove(kBell)) return;
+    if (!token->empty()) qputenv(kToken, QByteArray::fromStdString(*token));
     come_();
 }
 
-bool Doorbell::Ring() {
-    constexpr auto kPatience = std::chrono::seconds(1);
+bool Doorbell::Ring(std::chrono::milliseconds patience) {
     constexpr unsigned long kPause = 20;  // milliseconds
 #ifdef Q_OS_WIN
     AllowSetForegroundWindow(ASFW_ANY);
 #endif
-    // It is there with its token at once.
-    QFile bell(Bell() + '~');
-    if (!bell.open(QIODevice::WriteOnly)) return false;
-    bell.write(qgetenv(kToken));
-    bell.close();
-    if (!bell.rename(Bell())) return !bell.remove();
-    const QDeadlineTimer patience(kPatience);
-    while (QFile::exists(Bell()) && !patience.hasExpired()) QThread::msleep(kPause);
-    return !QFile::remove(Bell());
+    storage::FolderFiles files;
+    if (!files.Replace(kBell, qgetenv(kToken).toStdString())) return false;
+    const QDeadlineTimer end(patience);
+    while (files.Exists(kBell) && !end.hasExpired()) QThread::msleep(kPause);
+    if (!files.Exists(kBell)) return true;
+    files.Remove(kBell);
+    return false;
 }
 
 }  // namespace platform::desktop

@@ -1,23 +1,28 @@
 #pragma once
 
 #include <QFileSystemWatcher>
+#include <chrono>
 #include <functional>
+
+#include "storage/FolderFiles.h"
 
 namespace platform::desktop {
 
-/// By which a second start of the game has the first one come to the front: a file in the game folder, the current one,
-/// that whoever rings puts there and whoever answers takes away.
+/// A second start of the game creates a file in the game folder, the current one; the running game sees it, removes it
+/// and raises its window. (A local socket would need Qt's network library, for which every start would wait.)
 class Doorbell {
 public:
-    /// Calls `come` whenever somebody rings, from here on.
+    /// Calls `come` whenever somebody rings, at once if somebody already has.
     void Answer(std::function<void()> come);
 
-    /// Rings, and waits up to a second. False: nobody has answered.
-    static bool Ring();
+    /// Rings, and waits; some seconds are enough for a game that is just starting to open its window. False: nobody has
+    /// answered.
+    static bool Ring(std::chrono::milliseconds patience = std::chrono::seconds(5));
 
 private:
-    void Look() const;
+    void Look();
 
+    storage::FolderFiles files_;
     QFileSystemWatcher door_;
     std::function<void()> come_;
 };

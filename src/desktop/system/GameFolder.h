@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QLockFile>
 #include <QString>
-#include <QTimer>
+#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 
 #include "platform/Services.h"
+#include "storage/FolderLock.h"
 
 namespace platform::desktop {
 
@@ -28,21 +28,23 @@ public:
 
     /// What is to be known of a folder, which is then the current one of `files`.
     struct Keeper {
-        std::function<bool(Files& files)> Holds;    ///< whether anything of the game's is stored in it
-        std::function<bool(Files& files)> Furnish;  ///< stores what a new one begins with
+        std::function<bool(Files& files)> Holds;    ///< whether a player has stored anything in it
+        std::function<bool(Files& files)> Furnish;  ///< stores what is missing in a new one; false on failure
     };
 
-    /// Makes the game folder the current one and keeps other programs out of it. Where the player's own folder cannot
-    /// be made it stays where it is. False if a game is already running there.
-    bool Enter(const Places& places, const Keeper& keeper);
+    enum class Entry {
+        Free,       ///< the game plays here
+        Taken,      ///< a game is already running here
+        Temporary,  ///< no folder can be written: the game plays in one that goes away with it
+    };
+    /// Makes the game folder the current one and keeps other programs out of it.
+    Entry Enter(const Places& places, const Keeper& keeper);
     /// Lets the next program in.
     void Leave();
 
 private:
-    bool Lock();
-
-    std::unique_ptr<QLockFile> lock_;
-    QTimer alive_;  ///< tells other machines that the lock's owner is alive
+    storage::FolderLock lock_;
+    std::unique_ptr<QTemporaryDir> temporary_;
 };
 
 }  // namespace platform::desktop
