@@ -5,33 +5,38 @@ from __future__ import annotations
 import math
 from typing import Callable
 
-from geometry import Affine, Knot, Point, ellipse, star
+from geometry import Affine, Point, ellipse, number, star
 from ink import Ink
-from palette import DUST, FLASH, GLOOM, LINE, PLATE, SHADOW, STAR, SWEAT, TONGUE
+from palette import DUST, FLASH, GLOOM, LINE, PLATE, SHADOW, STAR, SWEAT, TONGUE, Tone
 
 DROP = [(0, -7, 1), (3.4, -0.5), (3.2, 3.6), (0, 5.4), (-3.2, 3.6), (-3.4, -0.5)]
 
 
-def plate(ink: Ink) -> None:
-    """The edge of the pusher's plate, on which the left column of a pose lies, but for the plate's round corner at the top."""
-    ink.raw(f'<rect y="11" width="1" height="{ink.height - 11}" fill="{PLATE}"/>')
+def plate(ink: Ink, top: float = 9) -> None:
+    """The edge of the pusher's plate, on which the left column of a pose lies, but for the plate's two round corners.
+
+    `top` is the row below the upper corner: it depends on how high the pose is shown.
+    """
+    ink.raw(f'<rect y="{number(top)}" width="1" height="158.5" fill="{PLATE}"/>')
 
 
-RIM_PUFFS = ((-18.5, -3.5, 4.2), (-12.5, -7.5, 5.6), (-5.2, -5, 5.2))
+RIM_PUFFS = ((-21, -2.5, 4.4), (-15.5, -6.5, 5.6), (-8, -8.5, 6.4), (-1, -6, 6))
+RIM_SPECKS = ((-27, -3, 1.9), (-23.5, -9.5, 2.5), (-16, -17, 1.8), (-29.5, -9, 1.1), (-8, -19.5, 1.3))
 
 
 def rim(ink: Ink) -> None:
-    """Dust at the brink: it fills the lower right corner of the picture, whether the ledge goes on beyond or ends before."""
-    right, low = ink.width - 1.1, ink.height - 1.1
-    cloud: list[Knot] = []
-    for i in range(37):
-        x = -22.7 + 22.7 * i / 36
-        tops = [dy - math.sqrt(r * r - (x - dx) ** 2) for dx, dy, r in RIM_PUFFS if abs(x - dx) < r]
-        cloud.append((right + x, low + min(tops, default=-3.5)))
-    ink.shape([(right - 22.7, low, 1), *cloud, (right, low, 1)], DUST)
+    """Dust at the brink: it fills the lower right corner of the picture, whether the ledge goes on beyond or ends before.
+
+    Its outline is pale and open and specks fly off it, or it would be taken for a stone.
+    """
+    low, edge = ink.height - 0.2, Tone("#c3aa80", "#c3aa80")
+    for grow, tone in ((0.9, edge), (0, DUST)):
+        for dx, dy, r in RIM_PUFFS + RIM_SPECKS:
+            ink.shape(ellipse(ink.width + dx, low + dy, r + grow, r + grow, 14), tone, outline=False, depth=0)
+        ink.raw(f'<rect x="{number(ink.width - 24.5 - grow)}" y="{number(low - 3 - grow)}" width="{24.5 + grow}" height="4.2" fill="{tone.base}"/>')
     for dx, dy, r in RIM_PUFFS[1:]:
-        curl = [(right + dx + 0.5 * r * math.cos(t), low + dy + 0.5 * r * math.sin(t)) for t in (2.6, 3.4, 4.2, 5.0)]
-        ink.line(curl, ink.weight * 0.6, DUST.shade)
+        curl = [(ink.width + dx + 0.6 * r * math.cos(t), low + dy + 0.6 * r * math.sin(t)) for t in (3.4, 4.0, 4.6, 5.2, 5.8)]
+        ink.line(curl, ink.weight * 0.45, "#ffffff")
 
 
 def shadow(ink: Ink, x: float, y: float, half: float) -> None:

@@ -18,7 +18,8 @@ EYE_APART, EYE_TALL, EYE_WIDE = 11.2, 11.5, 9
 def draw_face(face: Face, ink: Ink, head: Affine, skull: list[Knot]) -> None:
     front = head.move(6.5 * face.turn, face.nod)
     brow = head.move(4 * face.turn, face.nod * 0.5)
-    for start, end in FOREHEAD:
+    raised = face.eyes.brow is not None and face.eyes.brow > 0       # then there is no room for the marks
+    for start, end in () if raised else FOREHEAD:
         ink.line(brow.knots([start, end]), ink.weight * 0.95, TUFT.base)
     muzzle = front.move(1.5 * face.turn, 0)
     ink.clipped(muzzle.knots(MUZZLE), skull, CREAM.base)
@@ -65,7 +66,8 @@ def _lid(ink: Ink, eye: Affine, eyes: Eyes, side: int, white: list[Knot], h: flo
 
 def _brow(ink: Ink, eye: Affine, eyes: Eyes, side: int, h: float) -> None:
     y, k = -h - (eyes.brow or 0), _slope(eyes, side)
-    knots = [(-8, y + k * 8), (0, y - (0 if eyes.slant > 0 else 1.6)), (8, y - k * 8)]
+    half = 8 if eyes.slant > 0 else 6.5
+    knots = [(-half, y + k * half), (0, y - (0 if eyes.slant > 0 else 1.6)), (half, y - k * half)]
     ink.line(eye.knots(knots), ink.weight * 1.5)
 
 

@@ -110,6 +110,16 @@ def bow(start: Point, end: Point, bend: float, steps: int = 16) -> list[Point]:
     return line
 
 
+def jointed(start: Point, joint: Point, end: Point, steps: int = 8) -> list[Point]:
+    """Points along two straight bones that meet at a joint, rounded there."""
+    def between(p: Point, q: Point, t: float) -> Point:
+        return (p[0] + (q[0] - p[0]) * t, p[1] + (q[1] - p[1]) * t)
+
+    before, after = between(start, joint, 0.35), between(joint, end, 0.6)
+    turn = [between(between(before, joint, i / steps), between(joint, after, i / steps), i / steps) for i in range(steps + 1)]
+    return [between(start, before, i / 4) for i in range(4)] + turn + [between(after, end, i / 4) for i in range(1, 5)]
+
+
 def ribbon(line: Sequence[Point], widths: Sequence[float]) -> tuple[list[Knot], list[Knot]]:
     """The two edges of a band of changing width along a line: one side, and the other one backwards."""
     left: list[Knot] = []

@@ -17,13 +17,14 @@ SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
 DIALOG_SIZES = (16, 24, 32, 48, 64)
 
 # The head on a grid of 16, for sizes at which whiskers and lids would be mud. The left half; the right one mirrors it.
-HEAD = [(8, 4.7), (5.6, 5), (3.2, 6.9), (2.3, 9.6), (0.9, 11.6, 1), (2.6, 12.2), (2.4, 14, 1), (5, 14.2), (8, 14.9)]
-EAR = [(2.5, 8.2), (2, 5), (2.1, 0.9, 1), (4.6, 2.9), (6.6, 5.4), (5, 8)]
-TIP = [(1.9, 3.9), (2.1, 0.9, 1), (4.4, 2.7), (3.4, 4.1)]
-EAR_INSIDE = [(3.4, 7), (3.1, 4.6), (4.2, 4), (5.4, 6)]
+HEAD = [(8, 5.6), (5.2, 5.7), (2.9, 7), (2.1, 9.1), (0.4, 10.8, 1), (1.9, 12), (1.3, 14.2, 1), (4.4, 14.1), (8, 15)]
+EAR = [(2.5, 8.6), (2, 6), (2.3, 3.3, 1), (4.7, 4.3), (6.9, 6.2), (5.4, 8)]
+TIP = [(1.4, 4.8), (1.5, 2.6), (1.4, 0.4, 1), (2.6, 2.2), (3.8, 3.8), (2.6, 4.1)]
+EAR_INSIDE = [(3.4, 7.4), (3.2, 5.6), (4.2, 5.4), (5.4, 6.4)]
+RUFF = [(0, 10), (2.7, 10.8), (3.5, 12.5), (3.4, 15), (0, 15)]
 # Pixels of an eye at each size: width, height, from the middle, lower end.
 EYE = {16: (2, 3, 2, 11), 22: (3, 4, 2, 14), 24: (3, 4, 3, 15), 32: (5, 6, 3, 20)}
-MUZZLE = [(8, 10.2), (10.4, 10.5), (11.6, 12.2), (10.2, 14.2), (8, 14.7), (5.8, 14.2), (4.4, 12.2), (5.6, 10.5)]
+MUZZLE = [(8, 10.6), (9.9, 10.9), (10.9, 12.4), (9.9, 14.2), (8, 14.7), (6.1, 14.2), (5.1, 12.4), (6.1, 10.9)]
 
 
 def application_icon(size: int) -> Ink:
@@ -53,10 +54,12 @@ def _features(ink: Ink, grid: Affine) -> None:
         ink.shape(ear, FUR, depth=0)
         if ink.width > 16:
             ink.flat(grid.knots(turn(EAR_INSIDE)), CREAM.shade)
-        ink.clipped(grid.knots(turn(TIP)), ear, TUFT.base)
-        ink.stroke(closed(ear), ink.weight)
+        tip = grid.knots(turn(TIP))
+        ink.flat(tip, TUFT.base)
+        ink.stroke(closed(tip), ink.weight * 0.5)
     ink.shape(head, FUR)
-    ink.clipped(grid.knots(MUZZLE), head, CREAM.base)
+    for part in (RUFF, _mirrored(RUFF), MUZZLE):
+        ink.clipped(grid.knots(part), head, CREAM.base)
     ink.stroke(closed(head), ink.weight)
     ink.flat(grid.knots([(6.8, 11.2), (8, 10.9), (9.2, 11.2), (8, 12.7)]), LINE)
 

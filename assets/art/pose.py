@@ -16,6 +16,7 @@ class Hand:
     angle: float | None = None      # None: the fingers go on in the arm's own direction
     kind: str = "open"              # "open", "fist", "press": flat against a wall on his right, at angle 0
     layer: str = "front"            # "back": behind the body, "front": before it, "face": before the head
+    elbow: Point | None = None      # where the arm is bent sharply; it then begins at the edge of the body
 
 
 @dataclass(frozen=True)
@@ -27,6 +28,7 @@ class Foot:
     angle: float = 0
     toes: float = 1
     sole: bool = False              # seen from below, as when he sits
+    knee: Point | None = None       # where the leg is bent sharply
 
 
 @dataclass(frozen=True)

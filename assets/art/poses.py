@@ -2,23 +2,25 @@
 
 from __future__ import annotations
 
+from dataclasses import replace
+
 from pose import Eyes, Face, Foot, Hand, Pose
 
 LEDGE = (105, 171)
 GROUND = (212, 223)
 SOLE = 170            # where a sole rests so that its outline ends with the picture
 
-AFRAID = Eyes(size=1.14, pupil=0.52, slant=-0.3, brow=3.5)
-WIDE = Eyes(size=1.1, pupil=0.72, look=(0.3, 0.1), slant=-0.22, brow=3)
+AFRAID = Eyes(size=1.1, pupil=0.52, slant=-0.3, brow=1)
+WIDE = Eyes(size=1.06, pupil=0.72, look=(0.3, 0.1), slant=-0.22, brow=1)
 CROSS = Eyes(lid=0.34, slant=0.3, brow=-3, pupil=0.86)
 FURIOUS = Eyes(lid=0.3, slant=0.42, brow=-3, pupil=0.7, size=1.08)
 
 STANDING = Pose(
-    size=LEDGE, hips=(50, 143), neck=(51, 111), head=(54, 84), tilt=2,
-    hands=(Hand((25, 139), 4, -165, layer="back"), Hand((77, 140), -5, 172)),
-    feet=(Foot((38, SOLE), -1, toes=-1), Foot((62, SOLE), 1)),
+    size=LEDGE, hips=(54, 143), neck=(51, 111), head=(54, 84), tilt=5,
+    hands=(Hand((23, 140), 5, -172, layer="back"), Hand((69, 139), kind="fist", elbow=(90, 127), angle=225)),
+    feet=(Foot((35, SOLE), -1, toes=-1, knee=(42, 155)), Foot((63, SOLE), 0)),
     face=Face(Eyes(look=(0.3, 0)), "smile", 0.5),
-    scarf=((42, 112), (26, 118), (13, 130)), tail=((38, 148), (20, 161), (9, 150)))
+    scarf=((42, 112), (26, 118), (13, 130)), tail=((44, 148), (22, 162), (9, 152)), under=(("plate",),))
 
 POSES: dict[str, Pose] = {
     "Zarpi1": STANDING,
@@ -27,81 +29,81 @@ POSES: dict[str, Pose] = {
         hands=(Hand((15, 119), -6, -80, layer="back"), Hand((72, 128), -7, 130, "fist")),
         feet=(Foot((60, SOLE - 3), 3, -16), Foot((83, SOLE - 3), -3, -16)),
         face=Face(Eyes(lid=0.22, slant=0.3, brow=0, look=(-0.5, 0)), "grit", 0.25),
-        ears=(-4, 26), scarf=((44, 112), (60, 108), (76, 114)), tail=((36, 145), (25, 156), (15, 154)),
+        ears=(-4, 26), scarf=((44, 112), (60, 108), (76, 114)), tail=((36, 145), (25, 156), (15, 154)), under=(("plate",),),
         over=(("puff", 94, 164, 5.4), ("sweat", 85, 64, 40))),
     "Zarpi3": Pose(
-        size=LEDGE, scale=0.95, hips=(44, 138), neck=(53, 110), head=(62, 87), tilt=12,
-        hands=(Hand((19, 122), 8, -70, layer="back"), Hand((89, 118), 7, 70)),
+        size=LEDGE, scale=0.95, hips=(42, 139), neck=(49, 112), head=(56, 85), tilt=10,
+        hands=(Hand((15, 128), 8, -75, layer="back"), Hand((93, 126), 0, 80, elbow=(74, 132))),
         feet=(Foot((27, 164), -3, 24), Foot((75, 160), -7, -22)),
         face=Face(WIDE, "oh", 0.7), ears=(-14, -22),
-        scarf=((44, 110), (29, 99), (13, 91)), tail=((34, 142), (22, 148), (13, 143)),
-        over=(("sweat", 20, 66, -40), ("dash", 4, 155, 14, 155, 4, 163, 11, 163))),
+        scarf=((42, 112), (27, 103), (11, 97)), tail=((34, 143), (22, 150), (12, 146)), under=(("plate",),),
+        over=(("sweat", 18, 62, -40), ("dash", 4, 158, 12, 158, 4, 165, 10, 165))),
     "Zarpi5": Pose(
-        size=LEDGE, scale=0.95, hips=(48, 134), neck=(48, 105), head=(54, 80), tilt=-9,
-        hands=(Hand((14, 117), 4, -64, layer="back"), Hand((90, 104), -9, 62)),
+        size=LEDGE, scale=0.95, hips=(48, 134), neck=(46, 106), head=(50, 79), tilt=-9,
+        hands=(Hand((13, 119), 4, -64, layer="back"), Hand((91, 118), 0, 60, elbow=(72, 122))),
         feet=(Foot((41, 163), -2), Foot((77, 148), -6, -26)),
-        face=Face(Eyes(size=1.14, pupil=0.6, look=(0.7, 0.7), slant=-0.28, brow=3), "wobble", 0.5),
-        ears=(-8, 24), scarf=((39, 108), (32, 124), (20, 134)), tail=((37, 139), (21, 147), (13, 138)),
-        over=(("rim",), ("arcs", 17, 118, 17, -128, -72, 1), ("arcs", 87, 107, 18.5, -82, -34, 1), ("sweat", 89, 60, 35))),
+        face=Face(replace(AFRAID, pupil=0.6, look=(0.7, 0.7)), "wobble", 0.5),
+        ears=(-8, 24), scarf=((37, 109), (30, 125), (18, 135)), tail=((37, 139), (21, 147), (13, 139)), under=(("plate", 1),),
+        over=(("rim",), ("arcs", 16, 119, 17, -128, -72, 1), ("arcs", 84, 119, 20, -90, -42, 1), ("sweat", 87, 57, 35))),
     "Zarpi6": Pose(
-        size=LEDGE, scale=0.95, hips=(52, 125), neck=(52, 96), head=(53, 73), tilt=0,
-        hands=(Hand((15, 108), -6, -70, layer="back"), Hand((90, 108), 6, 70)),
-        feet=(Foot((30, 148), 7, 20, toes=-1), Foot((69, 158), -4, 12)),
-        face=Face(Eyes(size=1.2, pupil=0.55, look=(0, 0.75), slant=-0.35, brow=3.5), "wobble", 0, 1),
-        ears=(48, 48), scarf=((60, 98), (70, 108), (72, 124)), tail=((48, 124), (24, 137), (13, 124)),
-        over=(("sweat", 21, 28, -25), ("sweat", 85, 30, 25), ("dash", 27, 159, 27, 166, 47, 162, 47, 168, 72, 164, 72, 168))),
+        size=LEDGE, scale=0.95, hips=(50, 124), neck=(52, 95), head=(55, 69), tilt=6,
+        hands=(Hand((12, 98), 0, -30, elbow=(29, 112), layer="back"), Hand((93, 102), 0, 30, elbow=(78, 114))),
+        feet=(Foot((19, 148), 0, 62, knee=(38, 150)), Foot((83, 144), 0, -30, knee=(72, 128))),
+        face=Face(replace(AFRAID, look=(0.2, 0.85)), "scream", 0.25, -1),
+        ears=(-20, -10), scarf=((42, 94), (22, 82), (18, 44)), tail=((42, 128), (14, 132), (12, 116)), under=(("plate",),),
+        over=(("sweat", 96, 40, 25), ("dash", 50, 160, 50, 167, 64, 156, 64, 166, 36, 162, 36, 167))),
     "Zarpi9": Pose(
         size=LEDGE, hips=(52, 150), neck=(53, 126), head=(54, 105), tilt=0, squash=(1.06, 0.92),
         hands=(Hand((16, 152), -5, -140, "fist", "back"), Hand((90, 152), 5, 140, "fist")),
         feet=(Foot((34, SOLE), 4, toes=-1), Foot((70, SOLE), -4)),
         face=Face(Eyes("open", look=(0.1, -0.8)), "grin", 0.3), ears=(30, 30),
-        scarf=((42, 128), (24, 133), (6, 129)), tail=((38, 154), (24, 160), (12, 154))),
+        scarf=((42, 128), (24, 133), (6, 129)), tail=((38, 154), (24, 160), (12, 154)), under=(("plate",),)),
     "Zarpi10": Pose(
-        size=LEDGE, scale=0.9, hips=(52, 122), neck=(52, 94), head=(53, 71), tilt=-3, squash=(0.97, 1.04),
-        hands=(Hand((11, 64), -12, -6, layer="back"), Hand((94, 62), 12, 6, layer="back")),
-        feet=(Foot((33, 144), 6, 26, toes=-1), Foot((74, 147), -6, 26)),
+        size=LEDGE, scale=0.9, hips=(52, 124), neck=(52, 97), head=(53, 70), tilt=-3, squash=(0.97, 1.04),
+        hands=(Hand((12, 62), 0, -10, elbow=(24, 96), layer="back"), Hand((94, 60), 0, 10, elbow=(81, 95), layer="back")),
+        feet=(Foot((33, 146), 6, 26, toes=-1), Foot((74, 149), -6, 26)),
         face=Face(Eyes("happy"), "cheer", 0.25), ears=(-6, -4),
-        scarf=((44, 98), (34, 110), (24, 126)), tail=((48, 120), (27, 133), (19, 146)),
-        under=(("shadow", 53, 167, 22),), over=(("dash", 38, 153, 38, 161, 66, 156, 66, 162),)),
+        scarf=((44, 100), (34, 112), (24, 126)), tail=((60, 124), (82, 132), (92, 112)),
+        under=(("plate",), ("shadow", 53, 167, 22)), over=(("dash", 38, 154, 38, 161, 66, 157, 66, 162),)),
     "Zarpi11": Pose(
-        size=LEDGE, scale=0.95, hips=(40, 136), neck=(44, 107), head=(54, 81), tilt=8, squash=(0.96, 1.05),
-        hands=(Hand((7.8, 92), -3, 0, "press", "back"), Hand((7.8, 114), 5, 0, "press")),
-        feet=(Foot((2.6, 138), 8, 90, toes=-1), Foot((2.6, 161), 5, 90, toes=-1)),
-        face=Face(Eyes(size=1.14, pupil=0.52, slant=-0.3, brow=3.5, look=(0.6, 0.6)), "scream", 0.5, -2), ears=(-8, -8),
-        scarf=((54, 110), (76, 105), (96, 112)), tail=((46, 136), (80, 155), (89, 132)),
-        under=(("plate",),), over=(("sweat", 16, 56, -30), ("sweat", 97, 72, 30))),
+        size=LEDGE, scale=0.95, hips=(42, 134), neck=(45, 106), head=(54, 80), tilt=8, squash=(0.96, 1.05),
+        hands=(Hand((7.8, 109), 0, 0, "press", elbow=(22, 120)), Hand((7.8, 80), 0, 0, "press", "back", elbow=(28, 100))),
+        feet=(Foot((2.6, 138), 6, 90, toes=-1), Foot((2.6, 163), 5, 90, toes=-1)),
+        face=Face(replace(AFRAID, look=(0.6, 0.6)), "scream", 0.5, -2), ears=(-8, -8),
+        scarf=((54, 109), (76, 101), (97, 102)), tail=((48, 136), (78, 148), (92, 122)),
+        under=(("plate", 11),), over=(("sweat", 15, 50, -30), ("sweat", 97, 70, 30))),
     "Zarpi12": Pose(
         size=LEDGE, scale=0.95, hips=(36, 143), neck=(38, 116), head=(53, 93), tilt=-5, squash=(1.04, 0.96),
         hands=(Hand((7.8, 116), 4, 0, "press", "back"), Hand((7.8, 130), 6, 0, "press")),
         feet=(Foot((2.6, 143), 10, 90, toes=-1), Foot((2.6, 161), 8, 90, toes=-1)),
         face=Face(Eyes("tight"), "grit", -0.45), ears=(62, 52),
         scarf=((48, 120), (66, 124), (80, 136)), tail=((42, 142), (74, 160), (76, 134)),
-        under=(("plate",),), over=(("sweat", 88, 48, 30), ("arcs", 50, 130, 42, -30, 12))),
+        under=(("plate", 11),), over=(("sweat", 88, 48, 30), ("arcs", 50, 130, 42, -30, 12))),
     "Zarpi14": Pose(
-        size=LEDGE, hips=(52, 143), neck=(52, 111), head=(53, 84), tilt=-4,
-        hands=(Hand((70, 127), 6, 80, "fist"), Hand((36, 124), -7, -80)),
+        size=LEDGE, hips=(52, 143), neck=(52, 111), head=(53, 83), tilt=-4,
+        hands=(Hand((74, 123), 0, 70, "fist", elbow=(26, 140)), Hand((31, 123), 0, -70, "fist", elbow=(79, 140))),
         feet=(Foot((40, SOLE), -1, toes=-1), Foot((66, 166), 1, -24)),
         face=Face(CROSS, "frown", 0), ears=(24, 24),
-        scarf=((42, 112), (26, 116), (14, 128)), tail=((38, 146), (24, 150), (20, 136)),
-        over=(("cross", 53, 46, 0.85), ("arcs", 72, 161, 12, -50, 0))),
+        scarf=((42, 112), (26, 110), (11, 118)), tail=((38, 146), (20, 154), (14, 140)), under=(("plate",),),
+        over=(("cross", 53, 45, 0.85), ("arcs", 72, 161, 12, -50, 0))),
     "Zarpi8": Pose(
-        size=GROUND, scale=1.25, hips=(96, 163), neck=(96, 136), head=(96, 104), squash=(1.1, 0.88),
-        hands=(Hand((36, 114), -6, -56, layer="back"), Hand((156, 114), 6, 56, layer="back")),
-        feet=(Foot((56, 176), -2.5, -16, sole=True), Foot((136, 176), 2.5, 16, sole=True)),
-        face=Face(Eyes("tight"), "shout", 0), ears=(30, 30), scarf=((84, 138), (58, 149), (30, 136)),
-        under=(("bang", 95, 104, 90, 58, 13, 182), ("puff", 25, 168, 15), ("puff", 165, 168, 14)),
-        over=(("puff", 16, 178, 9), ("puff", 174, 179, 8), ("star", 36, 40, 11, -100), ("star", 158, 46, 10, -75),
+        size=GROUND, scale=1.06, hips=(96, 166), neck=(96, 143), head=(96, 116), squash=(1.1, 0.88),
+        hands=(Hand((37, 119), -6, -50, layer="back"), Hand((155, 119), 6, 50, layer="back")),
+        feet=(Foot((62, 177), -2.5, -16, sole=True), Foot((130, 177), 2.5, 16, sole=True)),
+        face=Face(Eyes("tight"), "shout", 0), ears=(30, 30), scarf=((86, 145), (63, 154), (39, 143)),
+        under=(("bang", 95, 110, 88, 57, 13, 182), ("puff", 28, 168, 15), ("puff", 162, 168, 14)),
+        over=(("puff", 19, 178, 9), ("puff", 171, 179, 8), ("star", 36, 46, 11, -100), ("star", 156, 52, 10, -75),
               ("crack", 96, 184, 70))),
     "Zarpi13": Pose(
-        size=GROUND, scale=1.15, hips=(74, 150), neck=(72, 119), head=(74, 92), tilt=9,
-        hands=(Hand((24, 156), 6, 190, layer="back"), Hand((124, 156), -6, 170, layer="back")),
-        feet=(Foot((40, 168), -4, -14, sole=True), Foot((106, 168), 4, 14, sole=True)),
-        face=Face(Eyes("dizzy"), "daze", 0.1), ears=(4, 66), scarf=((62, 120), (42, 128), (34, 146)),
-        under=(("shadow", 74, 170, 60), ("orbit", 76, 44, 46, 13, 180, 360)),
-        over=(("orbit", 76, 44, 46, 13, 0, 180), ("star", 34, 38, 10, -100), ("star", 114, 38, 9, -70), ("star", 82, 57, 11))),
+        size=GROUND, scale=0.9, hips=(74, 154), neck=(72, 129), head=(74, 107), tilt=9,
+        hands=(Hand((34, 159), 5, 190, layer="back"), Hand((114, 159), -5, 170, layer="back")),
+        feet=(Foot((47, 169), -3, -14, sole=True), Foot((100, 169), 3, 14, sole=True)),
+        face=Face(Eyes("dizzy"), "daze", 0.1), ears=(4, 66), scarf=((64, 130), (48, 137), (41, 151)),
+        under=(("shadow", 74, 171, 50), ("orbit", 76, 66, 38, 11, 180, 360)),
+        over=(("orbit", 76, 66, 38, 11, 0, 180), ("star", 40, 61, 9, -100), ("star", 108, 61, 8, -70), ("star", 81, 77, 10))),
     "Zarpi15": Pose(
         size=GROUND, scale=1.5, hips=(88, 163), neck=(88, 113), head=(88, 72),
-        hands=(Hand((21, 76), -26, -4, "fist"), Hand((155, 72), 26, 4, "fist")),
+        hands=(Hand((21, 76), 0, -4, "fist", elbow=(22, 132)), Hand((155, 72), 0, 4, "fist", elbow=(154, 130))),
         feet=(Foot((66, 218), 0, toes=-1), Foot((108, 218), 0)),
         face=Face(FURIOUS, "grit", 0), ears=(52, 52), scarf=((76, 116), (48, 122), (28, 146)),
         tail=((66, 178), (44, 186), (36, 166)),
@@ -122,9 +124,9 @@ POSES: dict[str, Pose] = {
         under=(("shadow", 42, 169, 28),), over=(("storm", 44, 22, 16), ("puff", 10, 166, 5.4))),
     "falling": Pose(
         size=(157, 172), scale=1.08, hips=(70, 134), neck=(74, 106), head=(80, 84), tilt=-12,
-        hands=(Hand((16, 124), 8, -66, layer="back"), Hand((136, 76), -8, 40, layer="back")),
+        hands=(Hand((16, 124), 8, -66, layer="back"), Hand((139, 93), 0, 35, elbow=(117, 113), layer="back")),
         feet=(Foot((36, 152), -8, -50, sole=True), Foot((104, 158), 8, 24, sole=True)),
-        face=Face(AFRAID, "scream", 0, -2), ears=(-24, 6), scarf=((64, 106), (36, 98), (30, 52)), tail=((78, 134), (126, 138), (143, 100)),
+        face=Face(AFRAID, "scream", 0, -2), ears=(-24, 6), scarf=((64, 106), (36, 98), (30, 52)), tail=((78, 134), (122, 148), (147, 122)),
         over=(("dash", 10, 10, 10, 34, 128, 6, 128, 26, 148, 20, 148, 44, 6, 66, 6, 84),)),
     "small": Pose(
         size=(37, 60), scale=0.35, head_size=1.13, hips=(18.3, 48.2), neck=(18.4, 38.8), head=(18.8, 28.4),

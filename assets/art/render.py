@@ -1,4 +1,6 @@
-"""Draws every picture of the game: `python3 render.py FOLDER`, FOLDER being the one that holds game/ and icons/.
+"""Draws every picture of the game: `python3 render.py FOLDER [NAME ...]`, FOLDER being the one that holds game/ and icons/.
+
+With names, only the pictures whose path without the ending is one of them (`game/forms/ledge`) are drawn.
 
 Each picture is composed as SVG, rendered at 100 % and at what larger sizes are kept of it ("NAME@2x", "NAME@4x"), and
 written in the format that its place asks for.
@@ -138,13 +140,15 @@ def write_icons(target: Path, draw_size: Callable[[int], Ink], sizes: tuple[int,
 
 
 def main() -> None:
-    top = Path(sys.argv[1])
+    top, wanted = Path(sys.argv[1]), sys.argv[2:]
     with tempfile.TemporaryDirectory() as folder:
         work = Path(folder)
         for picture in pictures():
-            write(picture, top, work)
+            if not wanted or picture.path in wanted:
+                write(picture, top, work)
         for name, draw_size, sizes in COLLECTIONS:
-            write_icons(top / name, draw_size, sizes, work)
+            if not wanted or name in wanted:
+                write_icons(top / name, draw_size, sizes, work)
 
 
 if __name__ == "__main__":

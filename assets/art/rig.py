@@ -6,7 +6,7 @@ import math
 
 from effects import EFFECTS
 from face import draw_face
-from geometry import Affine, Point, bow, closed, ellipse, heading, ribbon
+from geometry import Affine, Point, bow, closed, ellipse, heading, jointed, ribbon
 from ink import Ink
 from palette import CREAM, FUR, SCARF, TUFT
 from pose import Foot, Hand, Pose
@@ -94,8 +94,8 @@ def _limb(ink: Ink, line: list[Point], widths: tuple[float, ...], scale: float) 
 
 
 def _arm(pose: Pose, ink: Ink, body: Affine, hand: Hand, side: int) -> None:
-    shoulder = body((side * 10.5, -9))
-    line = bow(shoulder, hand.at, hand.bend * pose.scale)
+    shoulder = body((side * (12.5 if hand.elbow else 10.5), -9))
+    line = jointed(shoulder, hand.elbow, hand.at) if hand.elbow else bow(shoulder, hand.at, hand.bend * pose.scale)
     ink.flat(ellipse(*shoulder, 4.6 * pose.scale, 4.6 * pose.scale), FUR.base)
     _limb(ink, line, ARM, pose.scale)
     angle = heading(line[-3], line[-1]) + 90 if hand.angle is None else hand.angle
@@ -127,7 +127,8 @@ HANDS = {"open": _open_paw, "fist": _fist, "press": _press}
 def _leg(pose: Pose, ink: Ink, body: Affine, foot: Foot, side: int) -> None:
     """It begins so deep in the torso that its edges come out from under the torso's own outline."""
     frame = Affine().move(*foot.at).turn(foot.angle).scale(pose.scale * foot.toes, pose.scale)
-    _limb(ink, bow(body((side * 8, 12)), frame((-1, -7)), foot.bend * pose.scale), LEG, pose.scale)
+    hip, ankle = body((side * 8, 12)), frame((-1, -7))
+    _limb(ink, jointed(hip, foot.knee, ankle) if foot.knee else bow(hip, ankle, foot.bend * pose.scale), LEG, pose.scale)
     (_sole if foot.sole else _foot)(ink, frame)
 
 

@@ -115,7 +115,7 @@ def title() -> Ink:
         _islet(ink, x, y)
     hero = POSES["Zarpi1"]
     ink.raw('<g transform="translate(252 117) scale(1.19)">')
-    draw(replace(hero, hands=(hero.hands[0], Hand((112, 84), 9, 16, layer="back")), face=Face(Eyes(look=(0.2, -0.1)), "cheer", 0.35)), ink)
+    draw(replace(hero, under=(), hands=(hero.hands[0], Hand((112, 84), 9, 16, layer="back")), face=Face(Eyes(look=(0.2, -0.1)), "cheer", 0.35)), ink)
     ink.raw("</g>")
     _subtitle(ink)
     return ink
