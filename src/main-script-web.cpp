@@ -112,14 +112,19 @@ private:
 
     Screen& screen_;
     web::PageDisplay& display_;
+    int keyTime_ = 0;  // of the last press
 };
 
 Refusal PageHand::Press(const Key& key) {
     const Form* const front = screen_.Front();
     const Refusal refusal = front == nullptr ? Refusal::Closed : screen_.Reach(*front);
     if (refusal != Refusal::None) return refusal;
-    const web::Event event = {"key", std::to_string(key.Code), std::to_string(static_cast<unsigned>(key.Character)),
-                              key.Control ? "1" : "0"};
+    const web::Event event = {"key",
+                              std::to_string(key.Code),
+                              std::to_string(static_cast<unsigned>(key.Character)),
+                              key.Control ? "1" : "0",
+                              key.Repeated ? "1" : "0",
+                              std::to_string(++keyTime_)};
     if (!display_.Take(event)) screen_.TypeKey(key);
     display_.Show();
     return Refusal::None;

@@ -1,14 +1,17 @@
-// Key presses as the program takes them: a code, a character, and whether Ctrl was held.
+// Key presses as the program takes them: a code, a character, and whether Ctrl was held. Of a key that types a character
+// the program knows the code itself.
 
-const CODES = { Enter: 13, Escape: 27, " ": 32, ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 };
+const CODES = {
+  ...{ Tab: 9, Enter: 13, Escape: 27, PageUp: 33, PageDown: 34, End: 35, Home: 36 },
+  ...{ ArrowLeft: 37, ArrowUp: 38, ArrowRight: 39, ArrowDown: 40 },
+};
 const CHARACTERS = { Enter: 13, Escape: 27, Backspace: 8 };
 const F1 = 112;
+const SHIFT_TAB = 265;
 
-/** The key of a character: letters and digits have a code of their own. */
+/** The key of a character. */
 export function keyOfCharacter(character) {
-  const upper = character.toUpperCase();
-  const hasCode = /^[\p{L}\p{N}]$/u.test(upper) && upper.charCodeAt(0) < 0x100;
-  return [hasCode ? upper.charCodeAt(0) : (CODES[character] ?? 0), character.charCodeAt(0), 0];
+  return [0, character.charCodeAt(0), 0];
 }
 
 /** The letter of a shortcut: held with Ctrl, or with Shift and Alt where the browser keeps Ctrl for itself. */
@@ -25,6 +28,7 @@ export function keyOfPress(event) {
   const typesWithAlt = event.getModifierState("AltGraph");
   if (event.metaKey || ((event.altKey || event.ctrlKey) && !typesWithAlt)) return null;
   if (event.key.length === 1) return keyOfCharacter(event.key);
+  if (event.key === "Tab" && event.shiftKey) return [SHIFT_TAB, 0, 0];
   const number = event.key.match(/^F([1-9]|1[0-2])$/)?.[1];
   const code = number ? F1 + Number(number) - 1 : (CODES[event.key] ?? 0);
   const character = CHARACTERS[event.key] ?? 0;

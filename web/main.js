@@ -139,8 +139,9 @@ class Page {
     if (key === null || event.key === "Tab") return;
     const edits = event.target.matches(".textBox") && key[0] !== 13 && key[0] !== 27;
     if (!this.loop.isReady && edits) return;
-    const leaves = this.loop.send("key", ...key.map(String));
-    if (leaves && (edits || front.moveInList(event.key))) return this.#keepPage(event, edits);
+    // A repetition is decided by the program, from what the browser says and when.
+    const leaves = this.loop.send("key", ...key.map(String), event.repeat ? "1" : "0", String(Math.round(event.timeStamp)));
+    if (leaves && edits) return this.#keepPage(event, edits);
     if (!leaves || !this.#belongsToBrowser(event)) event.preventDefault();
   }
 

@@ -275,15 +275,4 @@ export class Window {
     }
     this.send("type", this.name, event.target.dataset.name, event.target.value.replaceAll("\n", " "));
   }
-
-  /** Moves the selection of a list as its keys say. */
-  moveInList(key) {
-    const list = this.#elements.get(document.activeElement?.dataset.name)?.told;
-    if (list?.kind !== "ListBox") return false;
-    const last = list.lines.length - 1;
-    const rows = { ArrowDown: list.selected + 1, ArrowUp: list.selected - 1, Home: 0, End: last };
-    if (!(key in rows)) return false;
-    this.send("select", this.name, list.name, String(Math.max(0, Math.min(last, rows[key]))));
-    return true;
-  }
 }

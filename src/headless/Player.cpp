@@ -58,6 +58,12 @@ Key ParseKey(std::string_view name) {
     static const std::map<std::string_view, Key> kNamed = {{"Enter", {.Code = KeyEnter, .Character = KeyEnter}},
                                                            {"Esc", {.Code = KeyEscape, .Character = KeyEscape}},
                                                            {"Space", {.Code = KeySpace, .Character = KeySpace}},
+                                                           {"Tab", PlainKey(KeyTab)},
+                                                           {"Shift+Tab", PlainKey(KeyBacktab)},
+                                                           {"Home", PlainKey(KeyHome)},
+                                                           {"End", PlainKey(KeyEnd)},
+                                                           {"PageUp", PlainKey(KeyPageUp)},
+                                                           {"PageDown", PlainKey(KeyPageDown)},
                                                            {"Left", PlainKey(KeyLeft)},
                                                            {"Right", PlainKey(KeyRight)},
                                                            {"Up", PlainKey(KeyUp)},
@@ -100,16 +106,27 @@ Player::Player(Headless& platform, Means means, Program program, std::ostream& o
 
 const std::vector<Player::CommandRow>& Player::Commands() {
     static const std::vector<CommandRow> kCommands = {
-        {"date", &Player::SetDate, false},      {"time", &Player::SetTime, false},
-        {"rnd", &Player::QueueRnd, false},      {"draw", &Player::QueueDraw, false},
-        {"start", &Player::Start, false},       {"click", &Player::Click, false},
-        {"key", &Player::PressKey, false},      {"keys", &Player::PressKeys, false},
-        {"type", &Player::Type, false},         {"select", &Player::Select, false},
-        {"close", &Player::Close, false},       {"wait", &Player::Wait, false},
-        {"listen", &Player::Listen, false},     {"printer", &Player::AnswerPrinter, false},
-        {"show", &Player::Show, true},          {"expect", &Player::Expect, true},
-        {"forget", &Player::Forget, true},      {"write", &Player::WriteFile, false},
-        {"delete", &Player::DeleteFile, false}, {"block", &Player::BlockFile, false},
+        {"date", &Player::SetDate, false},
+        {"time", &Player::SetTime, false},
+        {"rnd", &Player::QueueRnd, false},
+        {"draw", &Player::QueueDraw, false},
+        {"start", &Player::Start, false},
+        {"click", &Player::Click, false},
+        {"key", &Player::PressKey, false},
+        {"keys", &Player::PressKeys, false},
+        {"hold", &Player::HoldKey, false},
+        {"type", &Player::Type, false},
+        {"select", &Player::Select, false},
+        {"close", &Player::Close, false},
+        {"wait", &Player::Wait, false},
+        {"listen", &Player::Listen, false},
+        {"printer", &Player::AnswerPrinter, false},
+        {"show", &Player::Show, true},
+        {"expect", &Player::Expect, true},
+        {"forget", &Player::Forget, true},
+        {"write", &Player::WriteFile, false},
+        {"delete", &Player::DeleteFile, false},
+        {"block", &Player::BlockFile, false},
     };
     return kCommands;
 }
@@ -216,18 +233,28 @@ void Player::Click(std::string_view name) {
 void Player::PressKey(std::string_view names) {
     for (const std::string_view name : Split(names, ' ')) {
         static_cast<void>(ParseKey(name));
-        keys_.emplace_back(name);
+        keys_.push_back({std::string(name)});
     }
 }
 
 void Player::PressKeys(std::string_view text) {
-    for (const char16_t character : FromUtf8(text)) keys_.push_back(ToUtf8(Text(1, character)));
+    for (const char16_t character : FromUtf8(text)) keys_.push_back({ToUtf8(Text(1, character))});
+}
+
+/// A key held down: its press and this many repetitions, each a move of its own.
+void Player::HoldKey(std::string_view rest) {
+    const auto [name, number] = SplitWord(rest);
+    static_cast<void>(ParseKey(name));
+    const int repetitions = ParseNumber<int>(TrimmedView(number));
+    for (int i = 0; i <= repetitions; ++i) keys_.push_back({std::string(name), i > 0});
 }
 
 void Player::PressNextKey() {
-    const std::string name = std::move(keys_.front());
+    const auto [name, repeated] = std::move(keys_.front());
     keys_.pop_front();
-    Tell(name, means_.Hand.Press(ParseKey(name)));
+    Key key = ParseKey(name);
+    key.Repeated = repeated;
+    Tell(name, means_.Hand.Press(key));
 }
 
 void Player::Type(std::string_view rest) {

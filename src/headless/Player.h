@@ -61,6 +61,11 @@ private:
     bool RunNext();
     [[nodiscard]] Outcome Result() const;
     void Execute(std::string_view line);
+    /// A key still to be pressed, by its name.
+    struct KeyMove {
+        std::string name;
+        bool repeated = false;
+    };
     void PressNextKey();
 
     // The commands; each gets the rest of its line.
@@ -72,6 +77,7 @@ private:
     void Click(std::string_view name);
     void PressKey(std::string_view names);
     void PressKeys(std::string_view text);
+    void HoldKey(std::string_view rest);
     void Type(std::string_view rest);
     void Select(std::string_view rest);
     void Close(std::string_view rest);
@@ -116,7 +122,7 @@ private:
     std::ostream& out_;
     std::vector<std::string> lines_;
     std::size_t next_ = 0;
-    std::deque<std::string> keys_;  ///< keys still to be pressed, each a move of its own
+    std::deque<KeyMove> keys_;  ///< each a move of its own
     bool started_ = false;
     bool ended_ = false;
     bool good_ = true;

@@ -7,9 +7,14 @@ namespace platform {
 /// Codes of the keys that have no character of their own.
 enum KeyCode : int {
     KeyNone = 0,
+    KeyTab = 9,
     KeyEnter = 13,
     KeyEscape = 27,
     KeySpace = 32,
+    KeyPageUp = 33,
+    KeyPageDown = 34,
+    KeyEnd = 35,
+    KeyHome = 36,
     KeyLeft = 37,
     KeyUp = 38,
     KeyRight = 39,
@@ -18,6 +23,7 @@ enum KeyCode : int {
     KeyF5 = 116,
     KeyF7 = 118,
     KeyF8 = 119,
+    KeyBacktab = 265,  ///< Shift and Tab
 };
 
 /// One key press as a form gets it.
@@ -25,11 +31,12 @@ struct Key {
     int Code = KeyNone;      ///< a KeyCode, or the upper-case letter or digit of the key
     char16_t Character = 0;  ///< the character typed; 0 for a key without one
     bool Control = false;    ///< held together with Ctrl
+    bool Repeated = false;   ///< no press of its own: the key is still held down (see HeldKey)
 
     bool operator==(const Key&) const = default;
 };
 
-/// The key that types this character.
+/// The key that types this character: a digit, a letter from A to Z, Ñ and the blank have a code, nothing else has.
 Key KeyOf(char16_t character);
 
 /// Ctrl and a letter; its character is the control code, 1 for A.

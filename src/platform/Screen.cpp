@@ -1,6 +1,8 @@
 #include "platform/Screen.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace platform {
 
@@ -178,9 +180,42 @@ void Screen::PressPreview(Form& form, const Key& key) {
     Run([&form, keyAscii] { form.OnKeyPress(keyAscii); });
 }
 
+bool Screen::PressAgain(Form& form, const Key& key) {
+    const bool isTyped = form.Focus() != nullptr && form.Focus()->kind == Kind::TextBox;
+    if (isTyped && key.Code != KeyEnter && key.Code != KeyEscape) return false;
+    const bool isArrow = key.Code >= KeyLeft && key.Code <= KeyDown;
+    if (isArrow && form.KeyPreview && form.OnKeyDown) {
+        Run([&form, &key] { form.OnKeyDown(key.Code); });
+    } else {
+        PressInList(form, key);
+    }
+    return true;
+}
+
+/// The keys by which a player goes through the lines of the list box that has the focus.
+bool Screen::PressInList(Form& form, const Key& key) {
+    constexpr int kPage = 10;
+    Control* const focus = form.Focus();
+    if (focus == nullptr || focus->kind != Kind::ListBox) return false;
+    auto& list = static_cast<ListBox&>(*focus);
+    const int last = static_cast<int>(list.List.size()) - 1;
+    const std::array<std::pair<int, int>, 6> lines = {{{KeyUp, list.ListIndex - 1},
+                                                       {KeyDown, list.ListIndex + 1},
+                                                       {KeyPageUp, list.ListIndex - kPage},
+                                                       {KeyPageDown, list.ListIndex + kPage},
+                                                       {KeyHome, 0},
+                                                       {KeyEnd, last}}};
+    const auto* const line = std::ranges::find(lines, key.Code, &std::pair<int, int>::first);
+    if (line == lines.end() || last < 0) return false;
+    const int wanted = std::clamp(line->second, 0, last);
+    if (wanted != list.ListIndex) Select(list, wanted);
+    return true;
+}
+
 bool Screen::Press(const Key& key) {
     if (Front() == nullptr || Reach(*Front()) != Refusal::None) return false;
     Form& form = *Front();
+    if (key.Repeated) return PressAgain(form, key);
     if (form.OnHelpKey && form.OnHelpKey(key)) {
         Settle();
         return true;
@@ -190,19 +225,14 @@ bool Screen::Press(const Key& key) {
     // Esc belongs to the cancel button alone; every other key with a character is seen by the form first.
     if (key.Code == KeyEscape && PressButton(form, key)) return true;
     PressPreview(form, key);
-    return Front() != &form || PressButton(form, key);
+    return Front() != &form || PressButton(form, key) || PressInList(form, key);
 }
 
 void Screen::TypeKey(const Key& key) {
     Control* const focus = Front() == nullptr ? nullptr : Front()->Focus();
-    if (focus == nullptr) return;
-    if (focus->kind == Kind::TextBox && key.Character >= u' ') {
-        auto& box = static_cast<TextBox&>(*focus);
-        Type(box, box.Text + key.Character);
-    } else if (focus->kind == Kind::ListBox && (key.Code == KeyUp || key.Code == KeyDown)) {
-        auto& list = static_cast<ListBox&>(*focus);
-        Select(list, list.ListIndex + (key.Code == KeyUp ? -1 : 1));
-    }
+    if (focus == nullptr || focus->kind != Kind::TextBox || key.Character < u' ') return;
+    auto& box = static_cast<TextBox&>(*focus);
+    Type(box, box.Text + key.Character);
 }
 
 /// What blinks is back before anybody has seen it gone.

@@ -55,11 +55,11 @@ public:
 
     Refusal Click(Control& control);
     Refusal Click(Form& form);
-    /// A key for the form in front: help, key preview, shortcuts, default and cancel button. False: it goes on to the
-    /// element that has the focus.
+    /// A key for the form in front: help, key preview, shortcuts, default and cancel button, the lines of a list box.
+    /// A repetition counts only in a text box, in a list box, and as an arrow for a form that reads codes of keys.
+    /// False: the game does not take it, and a text box that has the focus may.
     bool Press(const Key& key);
-    /// A key for what has the focus: its character goes to the end of the text of a text box, Up and Down select the
-    /// line before or behind in a list box.
+    /// The character of a key goes to the end of the text box that has the focus.
     void TypeKey(const Key& key);
     /// The text of a text box as the player leaves it, within the limits of the box.
     Refusal Type(TextBox& box, TextView text);
@@ -108,6 +108,8 @@ private:
     bool PressShortcut(Form& form, const Key& key);
     bool PressButton(Form& form, const Key& key);
     void PressPreview(Form& form, const Key& key);
+    bool PressAgain(Form& form, const Key& key);
+    bool PressInList(Form& form, const Key& key);
     void TickStill(const Timer& timer);
 
     Display& display_;

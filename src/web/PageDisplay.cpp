@@ -131,9 +131,12 @@ void PageDisplay::Heed(const Wishes& wishes) {
 
 /// A key that the screen leaves goes on to the element that has the focus, on the page.
 bool PageDisplay::TakeKey(const Event& event) {
-    const Key key{.Code = NumberOf(Part(event, 1)),
-                  .Character = static_cast<char16_t>(NumberOf(Part(event, 2))),
-                  .Control = Part(event, 3) == "1"};
+    const auto character = static_cast<char16_t>(NumberOf(Part(event, 2)));
+    Key key{.Code = NumberOf(Part(event, 1)), .Character = character, .Control = Part(event, 3) == "1"};
+    if (key.Code == KeyNone) key = KeyOf(character);
+    constexpr int kCharacters = 0x10000;  // keys without a code are told apart by their characters
+    const int number = key.Code == KeyNone ? kCharacters + character : key.Code;
+    key.Repeated = held_.Repeats(number, Moment(NumberOf(Part(event, 5))), Part(event, 4) == "1");
     const bool isTaken = screen_->Press(key);
     if (!isTaken) Tell(Json("leaveKey").Done());
     return isTaken;

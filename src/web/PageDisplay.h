@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/HeldKey.h"
 #include "platform/Screen.h"
 #include "platform/Wishes.h"
 
@@ -65,6 +66,7 @@ private:
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;
+    HeldKey held_;
     Wishes wishes_;
     std::map<const Form*, Window> windows_;
     std::string message_;  // objects, divided by commas

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "platform/HeldKey.h"
 #include "storage/MemoryFiles.h"
 
 namespace platform::headless {
@@ -229,11 +230,13 @@ TEST_F(Windows, AClickIsOneChoiceWhateverIsSelected) {
                [this] { hand.Select(dialog.list, 0); }, [this] { hand.Select(dialog.list, 7); },
                [this] { hand.Press(PlainKey(KeyDown)); }, [this] { hand.Press(PlainKey(KeyDown)); },
                [this] { hand.Press(PlainKey(KeyUp)); }, [this] { hand.Press(KeyOf(u't')); },
+               [this] { hand.Press(PlainKey(KeyHome)); }, [this] { hand.Press(PlainKey(KeyPageDown)); },
+               [this] { hand.Press(PlainKey(KeyEnd)); }, [this] { hand.Press({.Code = KeyUp, .Repeated = true}); },
                [this] { EXPECT_EQ(dialog.list.ListIndex, 1); }, [this] { EXPECT_EQ(dialog.Focus(), &dialog.list); },
                [this] { hand.Type(dialog.box, u"abc"); }, [this] { EXPECT_EQ(dialog.box.Text, u"abc"); },
                [this] { hand.Click(dialog.box); }, [this] { EXPECT_EQ(dialog.box.Text, u""); },
                [this] { hand.Close(); }});
-    EXPECT_EQ(story, "L22021Q.");
+    EXPECT_EQ(story, "L22021021Q.");
 }
 
 TEST_F(Windows, TheEndRunsNothingMore) {
@@ -243,6 +246,30 @@ TEST_F(Windows, TheEndRunsNothingMore) {
     };
     EXPECT_TRUE(platform.Ends([this] { ShowModal({[this] { hand.Click(dialog.ok); }}); }));
     EXPECT_EQ(story.find('!'), std::string::npos);
+}
+
+TEST(HeldKey, TellsAPressFromARepetition) {
+    struct Row {
+        int key;
+        int letGo;  // before the press; 0: not told
+        int at;
+        bool flagged;
+        bool repeats;
+    };
+    const std::vector<Row> rows = {{'A', 0, 100, true, true},      // held since before the first window
+                                   {'B', 0, 200, false, false},    // a press
+                                   {'B', 0, 700, true, true},      // held down
+                                   {'B', 730, 730, false, true},   // held down, and not flagged
+                                   {'B', 750, 760, false, false},  // a second press
+                                   {'B', 0, 3000, true, false},    // the release was lost
+                                   {'C', 0, 3010, true, false},    // another key
+                                   {'C', 0, 0, false, false},      // at times that are not told
+                                   {'C', 0, 0, false, false}};
+    HeldKey held;
+    for (const Row& row : rows) {
+        if (row.letGo != 0) held.Release(row.key, Moment(row.letGo));
+        EXPECT_EQ(held.Repeats(row.key, Moment(row.at), row.flagged), row.repeats) << row.key << " at " << row.at;
+    }
 }
 
 TEST(Generator, NeverRepeatsItselfForEqualSeeds) {

@@ -66,7 +66,7 @@ bool KeyFilter::TakeRepeat(const QObject* receiver, const QKeyEvent& press) {
 }
 
 void KeyFilter::TakeText(const QString& text) {
-    for (const QChar character : text) Press(KeyOfCharacter(character.unicode()));
+    for (const QChar character : text) Press(KeyOf(character.unicode()));
 }
 
 /// A key that was still on its way to a form that is gone must not reach the one behind.

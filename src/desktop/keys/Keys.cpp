@@ -12,11 +12,16 @@ struct CodeRow {
     int qtKey;
     int code;
 };
-constexpr std::array<CodeRow, 8> kCodes = {{
+constexpr std::array<CodeRow, 13> kCodes = {{
     {Qt::Key_Return, KeyEnter},
     {Qt::Key_Enter, KeyEnter},
     {Qt::Key_Escape, KeyEscape},
-    {Qt::Key_Space, KeySpace},
+    {Qt::Key_Tab, KeyTab},
+    {Qt::Key_Backtab, KeyBacktab},
+    {Qt::Key_PageUp, KeyPageUp},
+    {Qt::Key_PageDown, KeyPageDown},
+    {Qt::Key_Home, KeyHome},
+    {Qt::Key_End, KeyEnd},
     {Qt::Key_Left, KeyLeft},
     {Qt::Key_Up, KeyUp},
     {Qt::Key_Right, KeyRight},
@@ -38,12 +43,11 @@ constexpr std::array<AccentRow, 8> kAccents = {{
     {Qt::Key_Dead_Cedilla, 0x0327},
 }};
 
-/// Signs have no code: theirs would be those of the arrows.
+/// The code of a key that types nothing.
 int CodeOf(int qtKey) {
     const auto* row = std::ranges::find(kCodes, qtKey, &CodeRow::qtKey);
     if (row != kCodes.end()) return row->code;
-    if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F35) return KeyF1 + qtKey - Qt::Key_F1;
-    return qtKey < 0x100 && QChar(qtKey).isLetterOrNumber() ? qtKey : int{KeyNone};
+    return qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F12 ? KeyF1 + qtKey - Qt::Key_F1 : int{KeyNone};
 }
 
 /// The one character of a press with its modifiers; 0 for none.
@@ -66,11 +70,6 @@ char16_t CharacterOf(const QKeyEvent& press) {
 
 }  // namespace
 
-Key KeyOfCharacter(char16_t character) {
-    const char16_t upper = UpperCase(character);
-    return {.Code = CodeOf(upper), .Character = character};
-}
-
 std::optional<Key> KeyReader::Read(const QKeyEvent& press) {
     const auto* dead = std::ranges::find(kAccents, press.key(), &AccentRow::qtKey);
     if (dead != kAccents.end()) {
@@ -82,15 +81,17 @@ std::optional<Key> KeyReader::Read(const QKeyEvent& press) {
     if (controlOnly && press.key() >= Qt::Key_A && press.key() <= Qt::Key_Z) {
         return ControlKey(static_cast<char>(press.key()));
     }
-    Key key{.Code = CodeOf(press.key()), .Character = CharacterOf(press), .Control = controlOnly};
-    if (accent_.isNull() || key.Character == 0) return key;
+    const char16_t character = CharacterOf(press);
+    Key key = character >= u' ' ? KeyOf(character) : Key{.Code = CodeOf(press.key()), .Character = character};
+    key.Control = controlOnly;
+    if (accent_.isNull() || character == 0) return key;
 
     // A control character (Enter, Esc) gives the accent up.
     const QString pair = QString(QChar(key.Character)) + std::exchange(accent_, QChar());
     if (key.Character < u' ') return key;
     const QString composed = pair.normalized(QString::NormalizationForm_C);
     if (composed.size() != 1) return std::nullopt;
-    return KeyOfCharacter(composed.front().unicode());
+    return KeyOf(composed.front().unicode());
 }
 
 }  // namespace platform::desktop

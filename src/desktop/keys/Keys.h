@@ -7,9 +7,6 @@
 
 namespace platform::desktop {
 
-/// The key of a character that came without one, from an input method.
-Key KeyOfCharacter(char16_t character);
-
 /// Reads key presses. Alt makes no character (it belongs to the menus), AltGr does; an accent that waits for its letter
 /// makes one character with it, also where the system does not put them together.
 class KeyReader {
