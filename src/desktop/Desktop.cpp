@@ -9,7 +9,6 @@
 
 #include "desktop/access/Access.h"
 #include "desktop/access/Announcer.h"
-#include "desktop/keys/LostReleases.h"
 #include "desktop/system/Doorbell.h"
 #include "desktop/system/Heartbeat.h"
 #include "desktop/system/MediaPlayer.h"
@@ -65,9 +64,6 @@ private:
     void LoadTranslation();
 
     QApplication app_;
-#ifdef Q_OS_WIN
-    LostReleases releases_;
-#endif
     QTranslator translator_;
     GameFolder folder_;
     WindowDisplay display_;

@@ -86,10 +86,16 @@ Value PictureSeen(const Toolkit& kit, const Control& control, const desktop::Pic
     return Text(u"another picture");
 }
 
+/// The line that is drawn as the selected one; -1 for none, -2 for several.
+int SelectedRow(const QListWidget& list) {
+    const QModelIndexList selected = list.selectionModel()->selectedIndexes();
+    return selected.empty() ? -1 : selected.size() > 1 ? -2 : selected.front().row();
+}
+
 Sight LineSeen(const QListWidget& list, std::string_view property) {
     constexpr std::string_view kLine = "List(";
     if (property == "ListCount") return list.count();
-    if (property == "ListIndex") return list.currentRow();
+    if (property == "ListIndex") return SelectedRow(list);
     if (!property.starts_with(kLine)) return std::nullopt;
     const auto* const line = list.item(std::atoi(std::string(property.substr(kLine.size())).c_str()));
     return line == nullptr ? Text() : FromQt(line->text());
@@ -221,6 +227,22 @@ std::string WidgetEye::Focus() const {
     const QWidget* const focus = QApplication::focusWidget();
     if (front == nullptr || focus == nullptr || focus == &front->ClientArea()) return "none";
     return focus->window()->objectName().toStdString() + "." + focus->objectName().toStdString();
+}
+
+/// The largest element that has a name or takes the focus and lies within the ring.
+std::string WidgetEye::Ringed() const {
+    Settle(display_);
+    const FormWindow* const front = display_.FrontWindow();
+    const auto* const ring = front == nullptr ? nullptr : front->findChild<QWidget*>("ring");
+    if (ring == nullptr || !ring->isVisible()) return "none";
+    const Control* best = nullptr;
+    for (const Control* control : screen_.Front()->Controls()) {
+        const QWidget* const widget = FindWidget(display_, *control);
+        const bool isMeant = widget != nullptr && (TabIndexOf(*control) != 0 || !SpokenNameOf(*control).empty());
+        if (!isMeant || !ring->geometry().contains(widget->geometry() & front->ClientArea().rect())) continue;
+        if (best == nullptr || control->Width * control->Height > best->Width * best->Height) best = control;
+    }
+    return best == nullptr ? "elsewhere" : best->Owner.Name + "." + best->FullName();
 }
 
 }  // namespace platform::hand

@@ -18,6 +18,7 @@ public:
                                                       const headless::Value& state) const override;
     [[nodiscard]] std::string Forms() const override;
     [[nodiscard]] std::string Focus() const override;
+    [[nodiscard]] std::string Ringed() const override;
 
 private:
     const Screen& screen_;

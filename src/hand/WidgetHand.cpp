@@ -18,15 +18,17 @@ namespace {
 
 using desktop::FormWindow;
 
+/// Whether `owner` is the window over which `window` stands, or one further behind.
+bool IsBehind(const QWidget& owner, const QWidget& window) {
+    const QWidget* behind = window.parentWidget();
+    while (behind != nullptr && behind != &owner) behind = behind->parentWidget();
+    return behind != nullptr;
+}
+
 /// Whether a modal window keeps input from `window`.
 bool IsBlocked(const QWidget& window) {
     return std::ranges::any_of(QApplication::topLevelWidgets(), [&window](const QWidget* other) {
-        if (!other->isVisible() || !other->isModal() || other == &window || other->isAncestorOf(&window)) return false;
-        if (other->windowModality() == Qt::ApplicationModal) return true;
-        for (const QWidget* owner = other->parentWidget(); owner != nullptr; owner = owner->parentWidget()) {
-            if (owner == &window) return true;
-        }
-        return false;
+        return other->isVisible() && other->isModal() && other != &window && !IsBehind(*other, window);
     });
 }
 
@@ -67,7 +69,13 @@ struct KeyRow {
     Qt::Key key;
     const char* text;
 };
-constexpr std::array<KeyRow, 7> kKeys = {{
+constexpr std::array<KeyRow, 13> kKeys = {{
+    {KeyTab, Qt::Key_Tab, "\t"},
+    {KeyBacktab, Qt::Key_Backtab, "\t"},
+    {KeyHome, Qt::Key_Home, ""},
+    {KeyEnd, Qt::Key_End, ""},
+    {KeyPageUp, Qt::Key_PageUp, ""},
+    {KeyPageDown, Qt::Key_PageDown, ""},
     {KeyEnter, Qt::Key_Return, "\r"},
     {KeyEscape, Qt::Key_Escape, "\x1B"},
     {KeySpace, Qt::Key_Space, " "},
@@ -173,12 +181,23 @@ Refusal WidgetHand::Click(Form& form) {
     return state;
 }
 
-/// The release goes after the press only where the window is still there.
-void WidgetHand::SendKey(const Key& key) const {
+/// Sends a key event as a window system does that tells when it was.
+void WidgetHand::SendKey(QEvent::Type type, const Key& key) {
     const KeyPress press = PressOf(key);
-    const QPointer<QWindow> window = display_.FrontWindow()->windowHandle();
-    QTest::sendKeyEvent(QTest::Press, window, press.key, press.text, press.modifiers);
-    if (window) QTest::sendKeyEvent(QTest::Release, window, press.key, press.text, press.modifiers);
+    QKeyEvent event(type, press.key, press.modifiers, press.text);
+    event.setTimestamp(keyTime_);
+    if (const FormWindow* const front = display_.FrontWindow()) {
+        QCoreApplication::sendEvent(front->windowHandle(), &event);
+    }
+}
+
+/// A repetition is told as a release and a press at one time, and is not flagged.
+void WidgetHand::Strike(const Key& key) {
+    ++keyTime_;
+    if (key.Repeated) SendKey(QEvent::KeyRelease, key);
+    SendKey(QEvent::KeyPress, key);
+    ++keyTime_;
+    if (!key.Repeated) SendKey(QEvent::KeyRelease, key);
 }
 
 Refusal WidgetHand::Press(const Key& key) {
@@ -191,7 +210,7 @@ Refusal WidgetHand::Press(const Key& key) {
         edit != nullptr && key.Character != 0) {
         edit->end(false);
     }
-    SendKey(key);
+    Strike(key);
     return state;
 }
 
@@ -203,7 +222,7 @@ Refusal WidgetHand::Type(TextBox& box, TextView text) {
     edit.setFocus();
     edit.selectAll();
     if (text.empty()) QTest::keyClick(&edit, Qt::Key_Delete);
-    for (const char16_t character : text) SendKey(KeyOf(character));
+    for (const char16_t character : text) Strike(KeyOf(character));
     return Refusal::None;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QEvent>
+
 #include "desktop/windows/WindowDisplay.h"
 #include "headless/Hand.h"
 
@@ -40,11 +42,13 @@ protected:
 
 private:
     void ClickEntry(Menu& entry);
-    void SendKey(const Key& key) const;
+    void Strike(const Key& key);
+    void SendKey(QEvent::Type type, const Key& key);
 
     Screen& screen_;
     const desktop::WindowDisplay& display_;
     int depth_ = 0;
+    quint64 keyTime_ = 1;  // milliseconds; no two presses of the player bear one
 };
 
 }  // namespace platform::hand

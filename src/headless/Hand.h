@@ -43,6 +43,8 @@ public:
     [[nodiscard]] virtual std::string Forms() const = 0;
     /// The element that has the focus in the window in front: "frmGuardar.txtContraseña", "none".
     [[nodiscard]] virtual std::string Focus() const = 0;
+    /// The element that is marked as the one where a player without a mouse is: "Zarpi.lblLetra(2)", "none".
+    [[nodiscard]] virtual std::string Ringed() const = 0;
 };
 
 /// The hand on a platform whose elements are all there is.

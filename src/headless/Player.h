@@ -101,6 +101,7 @@ private:
     Answer AskFile(std::string_view rest) const;
     std::string ShownForms() const;
     std::string FocusName() const;
+    std::string RingedName() const;
     std::string Spoken() const;
     /// A value as it is told: where the player sees another one, with that.
     static std::string Told(const Value& state, const std::optional<Value>& seen);

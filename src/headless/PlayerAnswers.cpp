@@ -98,6 +98,7 @@ Player::Answer Player::Ask(std::string_view what) const {
     if (word == "files") return {"files", Sorted(means_.Folder.Names()), std::string(rest)};
     if (word == "forms") return {"forms", ShownForms(), std::string(rest)};
     if (word == "speech") return {"speech", Spoken(), std::string(rest)};
+    if (word == "ring") return {"ring", RingedName(), std::string(rest)};
     if (word == "focus") return {"focus", FocusName(), std::string(rest)};
     if (word == "size") {
         const auto [name, size] = SplitWord(rest);
@@ -134,6 +135,14 @@ std::string Player::Spoken() const {
     for (const Text& text : platform_.spoken) said += (said.empty() ? u"" : u" | ") + text;
     platform_.spoken.clear();
     return Format(said);
+}
+
+/// Where a player without a mouse is.
+std::string Player::RingedName() const {
+    const Control* const here = platform_.screen.Here();
+    const std::string name = here == nullptr ? "none" : here->Owner.Name + "." + here->FullName();
+    const std::string seen = means_.Eye == nullptr ? name : means_.Eye->Ringed();
+    return seen == name ? name : name + kSeen + seen;
 }
 
 std::string Player::FocusName() const {

@@ -84,6 +84,9 @@ public:
     /// labels and buttons are called by their caption and pictures and figures are left out. Set once, like Click.
     std::function<Text()> SpokenName;
 
+    /// A player without a mouse reaches the element by Tab and not by the arrow keys. Set once, like Click.
+    bool ByTabAlone = false;
+
 protected:
     static void Register(Control& control);
 

@@ -25,6 +25,7 @@ void Screen::Load(Form& form) {
 void Screen::Open(Form& form, bool modal) {
     Load(form);
     if (!Contains(loaded_, form) || Contains(shown_, form)) return;
+    cursor_.GiveUp();
     shown_.push_back(&form);
     if (modal) modal_.push_back(&form);
     FitPictures();
@@ -106,11 +107,13 @@ Refusal Screen::Trigger(Control& control) {
 }
 
 Refusal Screen::Click(Control& control) {
+    cursor_.GiveUp();
     Focus(control);
     return Trigger(control);
 }
 
 Refusal Screen::Click(Form& form) {
+    cursor_.GiveUp();
     const Refusal refusal = Reach(form);
     if (refusal == Refusal::None) Run(form.OnClick);
     return refusal;
@@ -215,9 +218,14 @@ bool Screen::PressInList(Form& form, const Key& key) {
 bool Screen::Press(const Key& key) {
     if (Front() == nullptr || Reach(*Front()) != Refusal::None) return false;
     Form& form = *Front();
-    if (key.Repeated) return PressAgain(form, key);
-    if (form.OnHelpKey && form.OnHelpKey(key)) {
+    const bool isHelp = !key.Repeated && form.OnHelpKey && form.OnHelpKey(key);
+    if (isHelp || cursor_.Take(form, key)) {
         Settle();
+        return true;
+    }
+    if (key.Repeated) return PressAgain(form, key);
+    if (const Control* const stop = cursor_.PressedBy(key)) {
+        Run(stop->Click);
         return true;
     }
     if (form.KeyPreview && form.OnKeyDown) Run([&form, &key] { form.OnKeyDown(key.Code); });

@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/Cursor.h"
 #include "platform/Scheduler.h"
 #include "platform/Services.h"
 
@@ -55,7 +56,8 @@ public:
 
     Refusal Click(Control& control);
     Refusal Click(Form& form);
-    /// A key for the form in front: help, key preview, shortcuts, default and cancel button, the lines of a list box.
+    /// A key for the form in front: help, the cursor of players without a mouse, key preview, shortcuts, default and
+    /// cancel button, the lines of a list box.
     /// A repetition counts only in a text box, in a list box, and as an arrow for a form that reads codes of keys.
     /// False: the game does not take it, and a text box that has the focus may.
     bool Press(const Key& key);
@@ -80,6 +82,8 @@ public:
     /// Whether the player can reach a form, and an element of it.
     [[nodiscard]] Refusal Reach(const Form& form) const;
     [[nodiscard]] Refusal Reach(const Control& control) const;
+    /// Where a player without a mouse is; null for nowhere.
+    [[nodiscard]] const Control* Here() const { return cursor_.Here(); }
     /// Whether a mark must tell of an element that answers a click what its blinking would have told.
     [[nodiscard]] bool IsMarked(const Control& control) const;
 
@@ -118,6 +122,7 @@ private:
     std::vector<Form*> shown_;
     std::vector<Form*> modal_;
     std::vector<Form*> closing_;
+    Cursor cursor_{*this};
     std::vector<FittedBox> fitted_;  // of the loaded forms
     bool still_ = false;
     std::vector<Marked> marked_;

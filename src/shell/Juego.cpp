@@ -35,6 +35,7 @@ void Juego::ConectarVentana() {
     z.cmdMostrar.Click = [this] { cmdMostrar_Click(z, s.Media); };
     z.cmdOcultar.Click = [this] { cmdOcultar_Click(z, s.Media); };
     z.cmdDorvanquil.Click = [this] { s.Web.Navigate(PáginaWeb); };
+    z.cmdDorvanquil.ByTabAlone = true;
 }
 
 void Juego::ConectarMenús() {

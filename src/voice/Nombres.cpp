@@ -28,8 +28,6 @@ constexpr auto kFields = std::to_array<NombreDeCampo>({
     {"frmDiploma", "Text3", u"Zarpis"},
     {"frmDiploma", "Text4", u"Plenos"},
     {"frmDiploma", "Text5", u"Fecha"},
-    {"frmDiploma", "Picture2", u"Cortina izquierda"},
-    {"frmDiploma", "Picture3", u"Cortina derecha"},
 });
 
 /// A value that stands beside its heading, or below it: said together.

@@ -150,6 +150,11 @@ void PageDisplay::Tick() {
 
 void PageDisplay::TellChanges() {
     for (const Form* form : screen_->Shown()) TellChanges(*form, windows_[form]);
+    const Control* const here = screen_->Here();
+    if (std::exchange(here_, here) == here) return;
+    Json json("ring");
+    if (here != nullptr) json.Text("form", here->Owner.Name).Text("name", here->FullName());
+    Tell(json.Done());
 }
 
 void PageDisplay::TellChanges(const Form& form, Window& window) {

@@ -67,6 +67,7 @@ private:
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;
     HeldKey held_;
+    const Control* here_ = nullptr;  // in the ring, as the page was last told
     Wishes wishes_;
     std::map<const Form*, Window> windows_;
     std::string message_;  // objects, divided by commas

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "Rig.h"
-#include "desktop/keys/LostReleases.h"
+#include "desktop/keys/Repetitions.h"
 
 namespace platform::desktop {
 namespace {
@@ -23,13 +23,12 @@ TEST(Keys, EveryPressIsOneKey) {
     const std::vector<PressRow> rows = {
         {Qt::Key_A, Qt::NoModifier, "a", Key{'A', u'a'}},
         {Qt::Key_Ntilde, Qt::ShiftModifier, "Ñ", Key{0xD1, u'Ñ'}},
-        {Qt::Key_J, Qt::AltModifier, "j", Key{'J', 0}},
-        {Qt::Key_A, Qt::MetaModifier, "a", Key{'A', 0}},
+        {Qt::Key_J, Qt::AltModifier, "j", Key{}},
+        {Qt::Key_A, Qt::MetaModifier, "a", Key{}},
         {Qt::Key_N, Qt::ControlModifier, "\x0E", ControlKey('N')},
         {Qt::Key_N, Qt::ControlModifier, "", ControlKey('N')},
-        {Qt::Key_2, kAltGr, "@", Key{'2', u'@'}},
-        {Qt::Key_N, kAltGr, "\x0E", Key{'N', 0}},
-        {Qt::Key_Percent, Qt::NoModifier, "%", Key{KeyNone, u'%'}},  // not the code of an arrow
+        {Qt::Key_2, kAltGr, "@", Key{KeyNone, u'@'}},
+        {Qt::Key_N, kAltGr, "\x0E", Key{}},
         {Qt::Key_Left, Qt::NoModifier, "", PlainKey(KeyLeft)},
         {Qt::Key_F5, Qt::NoModifier, "", PlainKey(KeyF5)},
         {Qt::Key_Enter, Qt::KeypadModifier, "\r", Key{KeyEnter, u'\r'}},
@@ -49,8 +48,8 @@ TEST(Keys, AccentWaitsForItsLetter) {
         const char* letter;
         std::optional<Key> read;
     };
-    const std::vector<Row> rows = {{Qt::Key_Dead_Acute, "a", Key{0xC1, u'á'}},
-                                   {Qt::Key_Dead_Diaeresis, "U", Key{0xDC, u'Ü'}},
+    const std::vector<Row> rows = {{Qt::Key_Dead_Acute, "a", Key{KeyNone, u'á'}},
+                                   {Qt::Key_Dead_Diaeresis, "U", Key{KeyNone, u'Ü'}},
                                    {Qt::Key_Dead_Tilde, "n", Key{0xD1, u'ñ'}},
                                    {Qt::Key_Dead_Acute, "b", std::nullopt},
                                    {Qt::Key_Dead_Acute, "\x1B", Key{KeyEscape, 27}}};
@@ -142,23 +141,23 @@ struct Presses : QObject {
     std::vector<bool> repeated;
 };
 
-TEST(LostReleases, ARepetitionThatComesLateIsAPress) {
-    constexpr int kPatience = 200;
-    LostReleases releases{std::chrono::milliseconds(kPatience)};
+TEST(Repetitions, WhatTheSystemFlagsWronglyIsSentAnew) {
+    const Repetitions repetitions;
     Presses presses;
     QWidget widget;
     widget.winId();
     widget.windowHandle()->installEventFilter(&presses);
-    const auto press = [&widget](bool isRepeated) {
-        QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", isRepeated);
+    const auto send = [&widget](QEvent::Type type, quint64 time, bool isFlagged) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, "\r", isFlagged);
+        event.setTimestamp(time);
         QCoreApplication::sendEvent(widget.windowHandle(), &event);
     };
-    press(false);
-    press(true);
-    QTest::qWait(2 * kPatience);
-    press(true);
-    press(true);
-    EXPECT_EQ(presses.repeated, (std::vector{false, true, false, true}));
+    send(QEvent::KeyPress, 100, false);
+    send(QEvent::KeyPress, 600, true);
+    send(QEvent::KeyRelease, 630, false);
+    send(QEvent::KeyPress, 630, false);
+    send(QEvent::KeyPress, 3000, true);
+    EXPECT_EQ(presses.repeated, (std::vector{false, true, true, false}));
 }
 
 }  // namespace

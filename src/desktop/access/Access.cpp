@@ -64,7 +64,7 @@ public:
     }
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        if (Cursor().Here() == &view_) state.focused = true;
+        if (WindowOf(*widget()).Here().Here() == &view_) state.focused = true;
         if (view_.Element().Click) state.focusable = true;
         return state;
     }
@@ -81,8 +81,6 @@ public:
     }
 
 private:
-    [[nodiscard]] const desktop::Cursor& Cursor() const { return WindowOf(*widget()).Here(); }
-
     View& view_;  // lives as long as its widget: both are the window's
 };
 

@@ -2,36 +2,24 @@
 
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QListWidget>
 #include <string_view>
 
 namespace platform::desktop {
 
 namespace {
 
-/// A text box takes all keys but the control letters that no player knows to delete his text; a list those that move
-/// its selection, and no letter to look for a line.
+/// A text box takes all keys but the control letters that no player knows to delete his text.
 bool Takes(const QObject* receiver, const std::optional<Key>& key) {
     constexpr std::string_view kEditing = "ACVXZ";
-    if (dynamic_cast<const QListWidget*>(receiver) != nullptr) return key && key->Character == 0;
     if (dynamic_cast<const QLineEdit*>(receiver) == nullptr) return false;
     const bool controls = key && key->Control && key->Character != 0;
     return !controls || kEditing.find(static_cast<char>(key->Code)) != std::string_view::npos;
 }
 
-bool IsArrow(const QKeyEvent& press) {
-    return press.key() >= Qt::Key_Left && press.key() <= Qt::Key_Down;
-}
-
 }  // namespace
 
-KeyFilter::KeyFilter(const Toolkit& toolkit, const Form& form, QWidget& client, Cursor& cursor)
-    : QObject(&client),
-      screen_(toolkit.Screen),
-      sizing_(toolkit.Sizing),
-      form_(form),
-      client_(client),
-      cursor_(cursor) {
+KeyFilter::KeyFilter(const Toolkit& toolkit, const Form& form, QWidget& client)
+    : QObject(&client), screen_(toolkit.Screen), sizing_(toolkit.Sizing), form_(form), client_(client) {
     client.setAttribute(Qt::WA_InputMethodEnabled);
     client.installEventFilter(this);
     client.window()->installEventFilter(this);
@@ -51,18 +39,10 @@ bool KeyFilter::TakeKey(QObject* receiver, const QKeyEvent& press) {
         if (!press.isAutoRepeat()) sizing_.SwitchFullScreen();
         return true;
     }
-    if (screen_.Front() == &form_ && cursor_.Take(press)) return true;
-    if (press.isAutoRepeat()) return TakeRepeat(receiver, press);
-    const std::optional<Key> key = reader_.Read(press);
+    std::optional<Key> key = reader_.Read(press);
+    if (key) key->Repeated = press.isAutoRepeat();
     const bool taken = key && Press(*key);
     return taken || !Takes(receiver, key);
-}
-
-bool KeyFilter::TakeRepeat(const QObject* receiver, const QKeyEvent& press) {
-    const std::optional<Key> key = reader_.Read(press);
-    if (Takes(receiver, key)) return false;
-    if (key && IsArrow(press) && form_.KeyPreview && form_.OnKeyDown) Press(*key);
-    return true;
 }
 
 void KeyFilter::TakeText(const QString& text) {

@@ -82,6 +82,9 @@ std::optional<Key> KeyReader::Read(const QKeyEvent& press) {
         return ControlKey(static_cast<char>(press.key()));
     }
     const char16_t character = CharacterOf(press);
+    // Together with Alt a key belongs to the menus or to the system.
+    constexpr Qt::KeyboardModifiers kElsewhere = Qt::AltModifier | Qt::MetaModifier;
+    if (character == 0 && (press.modifiers() & kElsewhere)) return Key{};
     Key key = character >= u' ' ? KeyOf(character) : Key{.Code = CodeOf(press.key()), .Character = character};
     key.Control = controlOnly;
     if (accent_.isNull() || character == 0) return key;

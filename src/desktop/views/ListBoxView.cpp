@@ -1,7 +1,6 @@
 #include "desktop/views/ListBoxView.h"
 
 #include <QMouseEvent>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <utility>
 
@@ -9,12 +8,6 @@
 #include "desktop/views/TextLines.h"
 
 namespace platform::desktop {
-
-ListWidget::ListWidget(QWidget* client) : QListWidget(client) {
-    QObject::connect(this, &QListWidget::currentRowChanged, this, [this](int line) {
-        if (!pressed_ && OnChoice) OnChoice(line);
-    });
-}
 
 // While the button is down the selection follows the mouse; where it is let go is the choice.
 void ListWidget::mousePressEvent(QMouseEvent* event) {
@@ -36,14 +29,11 @@ ListBoxView::ListBoxView(const Toolkit& toolkit, ListBox& element, QWidget& clie
     widget_.setUniformItemSizes(true);
     widget_.OnChoice = [this](int line) {
         toolkit_.Screen.Select(element_, line);
-        // The form may have had another line in mind.
-        const QSignalBlocker silent(widget_);
-        widget_.setCurrentRow(element_.ListIndex);
+        widget_.setCurrentRow(element_.ListIndex);  // the form may have had another line in mind
     };
 }
 
 void ListBoxView::Apply(const ListBoxLook& look) {
-    const QSignalBlocker silent(widget_);
     widget_.setEnabled(look.Enabled);
     if (lines_ != look.List) SetLines(look.List);
     SetRows(toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold));

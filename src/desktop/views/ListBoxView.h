@@ -7,10 +7,10 @@
 
 namespace platform::desktop {
 
-/// A list that tells which line the player has chosen: by a click, on the line that is selected too, or by a key.
+/// A list that tells which line the player has clicked, be it selected already. Its keys are the screen's.
 class ListWidget : public QListWidget {
 public:
-    explicit ListWidget(QWidget* client);
+    using QListWidget::QListWidget;
 
     std::function<void(int line)> OnChoice;
 

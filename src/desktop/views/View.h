@@ -41,7 +41,7 @@ public:
     virtual void Forget() = 0;
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
-    [[nodiscard]] const Control& Element() const { return element_; }
+    [[nodiscard]] Control& Element() const { return element_; }
     /// Clicks the element without a mouse. The view may be gone afterwards.
     void Press() { toolkit_.Screen.Click(element_); }
 

@@ -22,7 +22,7 @@ Qt::WindowFlags FlagsOf(const Form& form, bool modal) {
     const Qt::WindowFlags frame =
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     return frame | (modal ? Qt::Dialog : Qt::Window) |
-           (form.MinButton ? Qt::WindowMinMaxButtonsHint : Qt::MSWindowsFixedSizeDialogHint);
+           (form.MinButton ? Qt::WindowMinimizeButtonHint : Qt::MSWindowsFixedSizeDialogHint);
 }
 
 std::vector<Control*> BackToFront(const Form& form) {
@@ -37,13 +37,13 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       toolkit_(toolkit),
       form_(form),
       client_(*new Client(this)),
-      board_(toolkit.Screen),
       cursor_(toolkit_, form, board_, client_),
       mark_(*new Ring(client_, toolkit.Scale, Qt::yellow)),
-      keys_(*new KeyFilter(toolkit_, form, client_, cursor_)) {
+      keys_(*new KeyFilter(toolkit_, form, client_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
     mark_.setObjectName("mark");
-    if (modal) setWindowModality(before.front == nullptr ? Qt::ApplicationModal : Qt::WindowModal);
+    // Modal to one window, a dialog would lose the keyboard to it at a click there.
+    if (modal) setWindowModality(Qt::ApplicationModal);
     TakeClicks();
     if (!form.Menus().empty()) menu_ = std::make_unique<MenuView>(toolkit.Screen, form, *this);
     if (IsMain()) toolkit_.Sizing.Follow(*this, DesignSize());

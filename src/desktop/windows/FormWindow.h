@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "desktop/keys/Board.h"
-#include "desktop/keys/Cursor.h"
+#include "desktop/keys/CursorView.h"
 #include "desktop/keys/KeyFilter.h"
 #include "desktop/views/View.h"
 #include "desktop/windows/Client.h"
@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] Client& ClientArea() const { return client_; }
     [[nodiscard]] const Board& Elements() const { return board_; }
-    [[nodiscard]] const Cursor& Here() const { return cursor_; }
+    [[nodiscard]] const CursorView& Here() const { return cursor_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -66,7 +66,7 @@ private:
     Form& form_;
     Client& client_;
     Board board_;
-    Cursor cursor_;
+    CursorView cursor_;
     Ring& mark_;
     KeyFilter& keys_;
     std::unique_ptr<MenuView> menu_;

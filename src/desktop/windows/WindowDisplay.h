@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 
+#include "desktop/keys/Repetitions.h"
 #include "desktop/windows/FormWindow.h"
 #include "platform/Screen.h"
 
@@ -48,6 +49,7 @@ private:
     Wishes wishes_;
     const Pictures pictures_{scale_};
     DoubleClicks doubleClicks_;
+    Repetitions repetitions_;
     Screen* screen_ = nullptr;
     std::map<const Form*, QPointer<FormWindow>> windows_;
     bool hadWindow_ = false;
