@@ -13,9 +13,12 @@ inline QString GameAssets() {
     return QCoreApplication::applicationDirPath() + "/" ZARPI_ASSETS;
 }
 
-/// Another folder that pictures and sounds come from, as long as this lives.
+/// Other folders that pictures and sounds come from, as long as this lives.
 struct AssetsFrom {
-    explicit AssetsFrom(const QString& folder) { SetAssetFolders({folder}); }
+    template <class... Folders>
+    explicit AssetsFrom(const Folders&... folders) {
+        SetAssetFolders({folders...});
+    }
     ~AssetsFrom() { SetAssetFolders({GameAssets()}); }
     AssetsFrom(const AssetsFrom&) = delete;
     AssetsFrom& operator=(const AssetsFrom&) = delete;

@@ -11,7 +11,6 @@
 
 #include "desktop/system/Assets.h"
 #include "desktop/values/Strings.h"
-#include "desktop/views/Companion.h"
 
 namespace platform::desktop {
 
@@ -27,10 +26,7 @@ struct Version {
 };
 
 /// The files of one picture, the picture itself first; none if there is no such picture.
-struct Source {
-    std::vector<Version> versions;
-    bool isLoaded;  ///< by name from a folder, where each file may have been exchanged alone
-};
+using Source = std::vector<Version>;
 
 /// Reads by the format that the name tells: a search among all formats would load every one of them.
 class Reader : public QImageReader {
@@ -46,39 +42,37 @@ QImage Decode(const QString& path) {
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
+/// Larger copies are taken from the folder that holds the picture: a picture of the player's own has only copies of
+/// his.
 Source SourceOf(const PictureLook& look) {
-    Source source{.versions = {}, .isLoaded = !look.Picture.empty()};
-    const auto add = [&source](const QString& path, int times) {
-        if (QFile::exists(path)) source.versions.push_back({path, times});
-    };
-    const QString file = AssetPath(source.isLoaded ? look.Picture : Text(u"forms/").append(FromUtf8(look.Stored)));
-    const QString name = source.isLoaded ? file.left(file.lastIndexOf('.')) : file;
-    if (source.isLoaded) {
-        add(file, 1);
-    } else {
-        add(name + ".png", 1);
-        if (source.versions.empty()) add(name + ".jpg", 1);
+    const auto found = [](const QString& name) { return QFileInfo(name).absoluteFilePath(); };
+    const bool isLoaded = !look.Picture.empty();
+    const QString name = AssetPath(isLoaded ? look.Picture : Text(u"forms/").append(FromUtf8(look.Stored)));
+    QString file = found(isLoaded ? name : name + ".png");
+    if (!isLoaded && !QFile::exists(file)) file = found(name + ".jpg");
+    if (!QFile::exists(file)) return {};
+
+    Source source = {{file, 1}};
+    const QString stem = file.left(file.lastIndexOf('.'));
+    const QString ending = isLoaded ? QString(".png") : "." + QFileInfo(file).suffix();
+    for (const int times : kCompanions) {
+        const QString larger = stem + QStringLiteral("@%1x").arg(times) + ending;
+        if (QFile::exists(larger)) source.push_back({larger, times});
     }
-    if (source.versions.empty()) return source;
-    const QString ending = source.isLoaded ? QString(".png") : "." + QFileInfo(source.versions.front().path).suffix();
-    for (const int times : kCompanions) add(name + QStringLiteral("@%1x").arg(times) + ending, times);
     return source;
 }
 
 QSize SizeOf(const Source& source) {
-    return source.versions.empty() ? QSize() : Reader(source.versions.front().path).size();
+    return source.empty() ? QSize() : Reader(source.front().path).size();
 }
 
 /// The picture from the smallest of its files that is at least as wide as asked for, else from the next smaller one.
 QImage Choose(const Source& source, QSize own, int width) {
-    const auto& versions = source.versions;
     const auto enough = [own, width](const Version& version) { return own.width() * version.times >= width; };
-    std::vector<Version> order(std::ranges::find_if(versions, enough), versions.end());
-    std::ranges::copy_if(versions.rbegin(), versions.rend(), std::back_inserter(order),
+    std::vector<Version> order(std::ranges::find_if(source, enough), source.end());
+    std::ranges::copy_if(source.rbegin(), source.rend(), std::back_inserter(order),
                          [&enough](const Version& version) { return !enough(version); });
     for (const Version& version : order) {
-        const bool isCompanion = source.isLoaded && version.times > 1;
-        if (isCompanion && !BelongTogether(versions.front().path, own, version.path, version.times)) continue;
         QImage image = Decode(version.path);
         if (!image.isNull()) return image;
     }
@@ -99,10 +93,10 @@ QImage Read(const Source& source, QSize size, double ratio) {
 
 /// A picture in `size` logical pixels, a small one from the last time.
 QPixmap Recall(const Source& source, QSize size) {
-    if (source.versions.empty()) return {};
+    if (source.empty()) return {};
     const double ratio = qGuiApp->devicePixelRatio();
     const QString key =
-        QStringLiteral("%1 %2 %3 %4").arg(source.versions.front().path).arg(size.width()).arg(size.height()).arg(ratio);
+        QStringLiteral("%1 %2 %3 %4").arg(source.front().path).arg(size.width()).arg(size.height()).arg(ratio);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap)) return pixmap;
     pixmap = QPixmap::fromImage(Read(source, size, ratio));
