@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 
 #include "Carpeta.h"
+#include "headless/Headless.h"
 #include "records/CuadrosDeHonor.h"
 #include "records/PartidasGuardadas.h"
 #include "records/UltimasPartidas.h"
+#include "shell/Juego.h"
 #include "storage/MemoryFiles.h"
 
 namespace juego {
@@ -271,6 +273,21 @@ TEST(Diario, LeadsNoWriteOutOfTheFolder) {
     EXPECT_EQ(fs::file_size("Diario.mal2"), std::size_t{1} << 30U);
 }
 #endif
+
+TEST(Diario, AsManyGamesAsThereCanBeAreListedAtOnce) {
+    BrittleFiles files;
+    EstrenarCarpeta(files);
+    ASSERT_TRUE(EscribirContador(files, ArchivoGuardadas, ArchivoGuardadas.Límite));
+    ASSERT_TRUE(ArchivoRegistros<PartidaGuardada>(files, ArchivoGuardadas).Escribir(32767, Game(u"Última")));
+    platform::headless::Headless platform(files);
+    Juego juego(platform.Services());
+    const auto windows = juego.Ventanas();
+    Form& list = **std::ranges::find(windows, "frmReanudar", &Form::Name);
+    files.operations = 0;
+    platform.screen.Load(list);
+    EXPECT_EQ(static_cast<const ListBox*>(list.Find("lstLista"))->List.at(32767), u"Última        ");
+    EXPECT_LT(files.operations, 10);
+}
 
 TEST(Diario, IsNotTrusted) {
     const std::string row(FilaHonor::Largo, 'r');
