@@ -7,7 +7,10 @@
 
 #ifdef _WIN32
 #include <io.h>
-#include <sys/locking.h>
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
 #else
 #include <sys/file.h>
 #endif
@@ -22,10 +25,12 @@ constexpr const char* kLock = ".zarpi.lock";
 constexpr std::array<std::pair<const char*, int>, 1> kWays = {{{kLock, _O_RDWR | _O_CREAT}}};
 
 bool Lock(int handle) {
-    return _locking(handle, _LK_NBLCK, 1) == 0;
+    OVERLAPPED start{};
+    return LockFileEx(reinterpret_cast<HANDLE>(_get_osfhandle(handle)),
+                      LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &start) != 0;
 }
 bool IsTaken() {
-    return errno == EACCES || errno == EDEADLOCK;
+    return GetLastError() == ERROR_LOCK_VIOLATION;
 }
 #else
 /// What is locked: a file, since folders in a network cannot be; one that another user has left, which can only be
