@@ -2,11 +2,8 @@
 
 #include <QtGlobal>
 #include <SDL.h>
-#include <algorithm>
-#include <cmath>
 
 #include "mixer/Rendition.h"
-#include "platform/Mix.h"
 
 namespace platform::desktop {
 
@@ -14,21 +11,34 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kLinger = 4s;         // from the last sound to the closing of the device
-constexpr auto kRetryAfter = 30s;    // from a device that did not open to the next attempt
-constexpr auto kLook = 1s;           // while the device is open
-constexpr auto kLookAtFading = 5ms;  // while a piece waits for the end of another
-constexpr auto kAsleep = 1h;         // nothing is due
+constexpr auto kLinger = 4s;          // from the last sound to the closing of the device
+constexpr auto kRetryAfter = 1s;      // from a device that did not open to the next attempt
+constexpr auto kLook = 500ms;         // while the device is open
+constexpr auto kLookAtFading = 5ms;   // while a piece fades out
+constexpr auto kAsleep = 1h;          // nothing is due
+constexpr auto kLongestPiece = 3min;  // what began earlier is over
+constexpr auto kMissed = 1s;          // of a piece, before it is taken up where it has come to
 
-constexpr int kRate = 44100;
 constexpr int kStereo = 2;
-constexpr int kBlock = 512;    // frames, 12 ms: the steps of every fade
-constexpr int kOverMusic = 1;  // tag of the channels that the music goes back under
-
-constexpr double kBlocksPerMillisecond = kRate / 1000.0 / kBlock;
+constexpr int kBlock = 1024;  // frames, 23 ms
 
 bool IsMusic(const std::string& file) {
     return file.ends_with(".mid");
+}
+
+/// Whether the system has told that an open device is gone.
+bool HasLostDevice() {
+    constexpr Uint32 kListed = 0;  // a device that was not open
+    bool lost = false;
+    SDL_PumpEvents();
+    for (SDL_Event event; SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) == 1;) {
+        lost = lost || (event.type == SDL_AUDIODEVICEREMOVED && event.adevice.which != kListed);
+    }
+    return lost;
+}
+
+Samples SamplesOf(const Mix_Chunk& chunk) {
+    return {reinterpret_cast<std::int16_t*>(chunk.abuf), chunk.alen / sizeof(std::int16_t)};
 }
 
 }  // namespace
@@ -40,7 +50,7 @@ SdlMixer::~SdlMixer() {
 void SdlMixer::Do(const MediaOrder& order) {
     switch (order.Command) {
         case MediaCommand::Play:
-            if (!order.File.empty() && Open()) Play(order);
+            if (!order.File.empty()) Play(order);
             break;
         case MediaCommand::Pause:
         case MediaCommand::Close: Stop(order.Channel); break;
@@ -56,11 +66,14 @@ bool SdlMixer::Open() {
     nextTry_ = now + kRetryAfter;
     SDL_SetHint(SDL_HINT_APP_NAME, "Juego de Zarpi");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_STREAM_NAME, "Música y sonidos");
-    if (Mix_OpenAudio(kRate, AUDIO_S16SYS, kStereo, kBlock) != 0) return false;
-    Mix_AllocateChannels(0);
-    level_ = 0;
-    Mix_VolumeMusic(MIX_MAX_VOLUME);
-    Mix_SetPostMix(&Balance, this);
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");  // the signals that end a program are not SDL's
+    constexpr int kNoChanges = 0;
+    if (Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, kStereo, kBlock, nullptr, kNoChanges) != 0) {
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);  // the next attempt looks for a sound server anew
+        return false;
+    }
+    Mix_SetPostMix(&Complete, &blend_);
+    lastHeard_ = now;
     nextTry_ = {};
     open_ = true;
     return true;
@@ -68,52 +81,60 @@ bool SdlMixer::Open() {
 
 void SdlMixer::Play(const MediaOrder& order) {
     lastHeard_ = std::chrono::steady_clock::now();
+    const bool isOpen = Open();
     if (!IsMusic(order.File)) {
-        PlaySound(order);
+        if (isOpen) PlaySound(order);
         return;
     }
-    if (!musicChannel_.empty()) Stop(musicChannel_);
-    musicChannel_ = order.Channel;
-    nextMusic_ = order.File;
+    piece_ = Piece{.channel = order.Channel, .file = order.File, .began = lastHeard_};
+    blend_.EndMusic();
     PlayMusic();
 }
 
 /// Starts the piece that waits, unless another one still fades out.
 void SdlMixer::PlayMusic() {
-    if (nextMusic_.empty() || Mix_PlayingMusic() != 0) return;
+    if (!open_) return;
+    if (Mix_PlayingMusic() != 0 && blend_.MusicHasEnded()) Mix_HaltMusic();
+    if (piece_ && !piece_->isPlaying && Mix_PlayingMusic() == 0) StartMusic();
+}
+
+void SdlMixer::StartMusic() {
     FreeMusic();
-    SDL_RWops* const stream = SDL_RWFromFile(FileToSound(nextMusic_).c_str(), "rb");
-    nextMusic_.clear();
-    if (stream != nullptr) music_ = Mix_LoadMUS_RW(stream, SDL_TRUE);
-    if (music_ != nullptr) Mix_PlayMusic(music_, 1);
+    piece_->isPlaying = true;
+    if (SDL_RWops* const stream = SDL_RWFromFile(FileToSound(piece_->file).c_str(), "rb")) {
+        music_ = Mix_LoadMUS_RW(stream, SDL_TRUE);
+    }
+    const std::chrono::duration<double> gone = std::chrono::steady_clock::now() - piece_->began;
+    if (music_ == nullptr || (gone > kMissed && gone.count() > Mix_MusicDuration(music_))) {
+        piece_.reset();
+        return;
+    }
+    gone > kMissed ? blend_.ResumeMusic() : blend_.BeginMusic();
+    Mix_PlayMusic(music_, 1);
+    if (gone > kMissed) Mix_SetMusicPosition(gone.count());
 }
 
 void SdlMixer::PlaySound(const MediaOrder& order) {
     const auto [it, isNew] = sounds_.try_emplace(order.Channel, Sound{static_cast<int>(sounds_.size()), {}, nullptr});
     Sound& sound = it->second;
-    if (isNew) {
-        Mix_AllocateChannels(static_cast<int>(sounds_.size()));
-        if (order.OverMusic) Mix_GroupChannel(sound.number, kOverMusic);
-    }
     if (sound.file != order.File) {
-        if (sound.chunk != nullptr) Mix_FreeChunk(sound.chunk);
+        if (sound.chunk != nullptr) {
+            blend_.Silence();
+            Mix_FreeChunk(sound.chunk);
+        }
         sound.chunk = Mix_LoadWAV(order.File.c_str());
         sound.file = order.File;
     }
-    if (sound.chunk == nullptr) return;
-    Mix_Volume(sound.number, MIX_MAX_VOLUME);  // it may have been fading
-    Mix_PlayChannel(sound.number, sound.chunk, 0);
+    if (sound.chunk != nullptr) blend_.Play(sound.number, SamplesOf(*sound.chunk), order.OverMusic);
 }
 
 void SdlMixer::Stop(const std::string& channel) {
-    if (!open_) return;
-    if (channel == musicChannel_) {
-        musicChannel_.clear();
-        nextMusic_.clear();
-        Mix_FadeOutMusic(kMix.Stop);
+    if (piece_ && piece_->channel == channel) {
+        piece_.reset();
+        blend_.EndMusic();
     }
     const auto sound = sounds_.find(channel);
-    if (sound != sounds_.end()) Mix_FadeOutChannel(sound->second.number, kMix.Stop);
+    if (sound != sounds_.end()) blend_.Stop(sound->second.number);
 }
 
 void SdlMixer::FreeMusic() {
@@ -122,40 +143,46 @@ void SdlMixer::FreeMusic() {
 }
 
 std::chrono::milliseconds SdlMixer::Attend() {
-    if (!open_) return kAsleep;
-    PlayMusic();
-    if (!nextMusic_.empty()) return kLookAtFading;
-    constexpr int kAll = -1;
     const auto now = std::chrono::steady_clock::now();
-    if (Mix_Playing(kAll) != 0 || Mix_PlayingMusic() != 0) lastHeard_ = now;
+    LetGoOfLostDevice();
+    if (piece_ && !piece_->isPlaying && now - piece_->began > kLongestPiece) piece_.reset();
+    if (!open_ && (!piece_ || !Open())) return piece_ ? kRetryAfter : kAsleep;
+    PlayMusic();
+    const bool isPlaying = Mix_PlayingMusic() != 0;
+    if (isPlaying && (!piece_ || !piece_->isPlaying)) return kLookAtFading;
+    if (isPlaying || blend_.IsSounding()) lastHeard_ = now;
     if (now - lastHeard_ < kLinger) return kLook;
+    piece_.reset();
     Close();
     return kAsleep;
 }
 
-void SdlMixer::Balance(void* mixer, Uint8* /*stream*/, int /*length*/) {
-    auto& self = *static_cast<SdlMixer*>(mixer);
-    const double target = MusicLevel(Mix_GroupNewer(kOverMusic) != -1, self.underVoice_);
-    const double back = kMix.UnderSound / (kMix.Back * kBlocksPerMillisecond);
-    const double up = -kMix.UnderSound / (kMix.Up * kBlocksPerMillisecond);
-    const double next =
-        self.level_ > target ? std::max(target, self.level_ + back) : std::min(target, self.level_ + up);
-    if (next == self.level_) return;
-    self.level_ = next;
-    Mix_VolumeMusic(static_cast<int>(std::lround(std::pow(10, next / 20) * MIX_MAX_VOLUME)));
+void SdlMixer::LetGoOfLostDevice() {
+    if (!open_ || !HasLostDevice()) return;
+    const bool isPlaying = Mix_PlayingMusic() != 0;
+    Close();
+    if (!piece_) return;
+    if (piece_->isPlaying && !isPlaying) {
+        piece_.reset();
+    } else {
+        piece_->isPlaying = false;
+    }
+}
+
+void SdlMixer::Complete(void* blend, Uint8* stream, int length) {
+    static_cast<Blend*>(blend)->Complete(
+        {reinterpret_cast<std::int16_t*>(stream), static_cast<std::size_t>(length) / sizeof(std::int16_t)});
 }
 
 void SdlMixer::Close() {
     if (!open_) return;
     Mix_HaltMusic();
     FreeMusic();
+    blend_.Silence();
     for (auto& [channel, sound] : sounds_) {
-        Mix_HaltChannel(sound.number);
         if (sound.chunk != nullptr) Mix_FreeChunk(sound.chunk);
     }
     sounds_.clear();
-    musicChannel_.clear();
-    nextMusic_.clear();
     Mix_CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);  // with it goes the thread that looks for new devices
     open_ = false;

@@ -1,7 +1,10 @@
 #include "web/PageServices.h"
 
 #include <chrono>
+#include <cmath>
+#include <utility>
 
+#include "platform/Mix.h"
 #include "web/Json.h"
 #include "web/Page.h"
 #include "web/PageDisplay.h"
@@ -58,6 +61,7 @@ void PagePrinter::PrintForm(const Form& form) {
 void PageMedia::Command(const MediaChannel& channel, MediaCommand command) {
     if (command == MediaCommand::Open) files_[channel.Name] = channel.FileName;
     if (command == MediaCommand::Open || command == MediaCommand::Prev) return;  // nothing to be heard
+    TellMix();
     const bool plays = command == MediaCommand::Play;
     display_.Tell(Json(plays ? "play" : "stop")
                       .Text("channel", channel.Name)
@@ -65,6 +69,17 @@ void PageMedia::Command(const MediaChannel& channel, MediaCommand command) {
                       .Flag("overMusic", channel.OverMusic)
                       .Done());
     if (command == MediaCommand::Close) files_.erase(channel.Name);
+}
+
+void PageMedia::TellMix() {
+    if (std::exchange(isMixTold_, true)) return;
+    display_.Tell(Json("mix")
+                      .Number("underSound", std::lround(kMix.UnderSound))
+                      .Number("silence", std::lround(kMix.Silence))
+                      .Number("back", kMix.Back)
+                      .Number("up", kMix.Up)
+                      .Number("stop", kMix.Stop)
+                      .Done());
 }
 
 void PageSpeech::Say(TextView text) {

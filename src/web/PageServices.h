@@ -50,8 +50,11 @@ public:
     void Command(const MediaChannel& channel, MediaCommand command) override;
 
 private:
+    void TellMix();
+
     PageDisplay& display_;
     std::map<std::string, Text> files_;
+    bool isMixTold_ = false;
 };
 
 /// Speaks through the page's live region. A page is not told whether anybody listens.

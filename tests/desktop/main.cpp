@@ -11,6 +11,9 @@ extern "C" const char* __lsan_default_suppressions() {
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZARPI_SCREEN);
+    // Sound goes to a file, where there is a folder for it. Set here, before any thread reads the environment.
+    qputenv("SDL_AUDIODRIVER", "disk");
+    qputenv("SDL_DISKAUDIOFILE", "device/out.raw");
     testing::InitGoogleTest(&argc, argv);
     QApplication::setStyle("fusion");
     const QApplication app(argc, argv);

@@ -35,8 +35,6 @@ MediaPlayer::~MediaPlayer() {
 
 void MediaPlayer::Start() {
     if (worker_.joinable()) return;
-    // Without this SDL would take the signals that end a program for itself.
-    qputenv("SDL_NO_SIGNAL_HANDLERS", "1");
     worker_ = std::thread([this] { Work(); });
 }
 
