@@ -2,7 +2,8 @@
 //
 //     node bench/page.mjs [RUNS]
 
-import { readdir, readFile } from "node:fs/promises";
+import { execFileSync } from "node:child_process";
+import { readdir, readFile, stat } from "node:fs/promises";
 import { extname, join } from "node:path";
 import { fileURLToPath } from "node:url";
 import { gzipSync } from "node:zlib";
@@ -24,6 +25,29 @@ async function programSize() {
     return Math.min(bytes.length, gzipSync(bytes, { level: 9 }).length);
   });
   return (await Promise.all(sizes)).reduce((sum, size) => sum + size, 0);
+}
+
+/** Bytes of the sounds, which the worker takes after the start, and of the music, a piece of which comes when it is to sound. */
+async function soundSizes() {
+  const folder = fileURLToPath(site);
+  const names = (await readdir(folder, { recursive: true })).filter((name) => [".wav", ".ogg"].includes(extname(name)));
+  const sizes = { sounds: 0, music: 0 };
+  for (const name of names) {
+    sizes[name.includes("Musica") ? "music" : "sounds"] += (await stat(join(folder, name))).size;
+  }
+  return sizes;
+}
+
+/** Megabytes that all processes of a browser hold. */
+async function memory(browser) {
+  const parents = execFileSync("ps", ["-e", "-o", "pid=,ppid="], { encoding: "utf8" }).trim().split("\n").map((line) => line.trim().split(/\s+/));
+  const own = [String(browser.process().pid)];
+  for (const pid of own) own.push(...parents.filter(([, parent]) => parent === pid).map(([child]) => child));
+  const shares = own.map(async (pid) => {
+    const rollup = await readFile(`/proc/${pid}/smaps_rollup`, "utf8").catch(() => "");
+    return Number(/^Pss:\s+(\d+)/m.exec(rollup)?.[1] ?? 0);
+  });
+  return (await Promise.all(shares)).reduce((sum, kilobytes) => sum + kilobytes, 0) / 1024;
 }
 
 /** In the page: notes when the pictures of the first window have come to the screen. */
@@ -109,6 +133,7 @@ async function idle(player) {
 
 const server = await serve({ "/empty.html": "<!doctype html><title>Empty</title><body style='background:#ddd'>" });
 console.log("program, page and fonts, compressed:", await programSize());
+console.log("sounds and music, bytes:", await soundSizes());
 const runs = [];
 for (let i = 0; i < RUNS; ++i) runs.push(await starts(server.address));
 const paint = median(runs.map((run) => run.paint));
@@ -122,5 +147,6 @@ const spans = await keys(player);
 const told = spans.map(({ work, drawing, frame }) => [work, drawing, frame].map((span) => span.toFixed(1)).join("/"));
 console.log("keys, milliseconds of work/of drawing/to the frame:", told.join(" "));
 console.log("idle in a word:", await idle(player));
+console.log(`memory of the browser in a word, with music: ${(await memory(browser)).toFixed(0)} MB`);
 await close();
 server.close();

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Puts the files of the page into one folder, pictures and fonts made small for the way through the network.
+"""Puts the files of the page into one folder, pictures, sounds and fonts made small for the way through the network.
 
     furnish.py ASSETS PAGE PROGRAM SITE
 
@@ -10,6 +10,7 @@ SITE/assets.json, which tells the page what there is, and the list of files into
 import hashlib
 import json
 import shutil
+import subprocess
 import sys
 from pathlib import Path
 
@@ -29,7 +30,8 @@ FONT_FILES = {
 SIZES = (1, 2, 4)  # times that of the design
 QUALITY = {1: 82, 2: 82, 4: 75}
 ICON_SIZES = (32, 256)
-MUSIC = "ogg"
+MUSIC = "music"  # the folder of what is streamed
+SOUND_QUALITY = "3"  # of Vorbis, about 64 kbit/s for one channel
 
 
 def picture_sources(assets: Path):
@@ -67,14 +69,17 @@ def furnish_pictures(assets: Path, site: Path):
 
 
 def furnish_sounds(assets: Path, site: Path):
-    """The sounds by the names that the game uses; music is there under another ending."""
-    folder = site / "sounds"
-    folder.mkdir()
+    """The sounds and the music, compressed alike, by the names that the game uses."""
     sounds = {}
-    for path in sorted(assets.glob("game/*.wav")) + sorted(assets.glob(f"game/*.{MUSIC}")):
-        name = path.name if path.suffix == ".wav" else path.stem + ".mid"
-        shutil.copy(path, folder)
-        sounds[name] = f"sounds/{path.name}"
+    (site / "sounds").mkdir()
+    for path in sorted(assets.glob("game/*.wav")):
+        sounds[path.name] = f"sounds/{path.stem}.ogg"
+        encode = ["oggenc", "--quiet", "--quality", SOUND_QUALITY, "--serial", "1", "--output", site / sounds[path.name], path]
+        subprocess.run(encode, check=True)
+    (site / MUSIC).mkdir()
+    for path in sorted(assets.glob("game/*.ogg")):
+        sounds[path.stem + ".mid"] = f"{MUSIC}/{path.name}"
+        shutil.copy(path, site / MUSIC)
     return sounds
 
 
@@ -96,7 +101,7 @@ def write_worker(page: Path, site: Path):
     digest = hashlib.sha256()
     for path in files:
         digest.update(path.read_bytes())
-    kept = [path for path in files if path.suffix != f".{MUSIC}" and not path.stem.endswith(f"@{SIZES[-1]}x")]
+    kept = [path for path in files if path.parent.name != MUSIC and not path.stem.endswith(f"@{SIZES[-1]}x")]
     names = ["./"] + [path.relative_to(site).as_posix() for path in kept]
     head = f'const VERSION = "{digest.hexdigest()[:16]}";\nconst FILES = {json.dumps(names, ensure_ascii=False)};\n\n'
     (site / "worker.js").write_text(head + (page / "worker.js").read_text())

@@ -77,6 +77,7 @@ class Page {
     focus: ({ form, name }) => this.#windows.get(form).showFocus(name),
     say: ({ text }) => this.front?.say(text),
     beep: () => this.sound.beep(),
+    mix: (table) => this.sound.mix(table),
     play: ({ channel, file, overMusic }) => this.sound.play(channel, file, overMusic),
     stop: ({ channel }) => this.sound.stop(channel),
     message: ({ text, title }) => this.#answer(ask(title, text, ["Aceptar"])),

@@ -1,14 +1,97 @@
-// Sound by Web Audio: one piece of music at a time, effects over each other, softer while something sounds over it.
+// Sound by Web Audio: one piece of music at a time, streamed, and effects over each other, kept whole. How loud they are beside each
+// other and how they fade the program tells.
 
-const FADE = 0.05; // seconds
-const DUCKED = 10 ** (-10 / 20);
+const gainOf = (decibels) => 10 ** (decibels / 20);
+
+/** A level on its way, in decibels. Not every browser tells a level on its way, so it is reckoned here. */
+class Fader {
+  #context;
+  #way;
+
+  constructor(context, decibels = 0) {
+    this.#context = context;
+    this.node = context.createGain();
+    this.#way = { from: decibels, to: decibels, start: 0, seconds: 0 };
+    this.node.gain.value = gainOf(decibels);
+  }
+
+  /** Sets out for a level, to be there after some milliseconds; the moment at which it is there. */
+  goTo(decibels, milliseconds) {
+    const now = this.#context.currentTime;
+    this.#way = { from: this.#at(now), to: decibels, start: now, seconds: milliseconds / 1000 };
+    const { gain } = this.node;
+    gain.cancelScheduledValues(now);
+    gain.setValueAtTime(gainOf(this.#way.from), now);
+    gain.exponentialRampToValueAtTime(gainOf(decibels), now + this.#way.seconds);
+    return now + this.#way.seconds;
+  }
+
+  #at(time) {
+    const { from, to, start, seconds } = this.#way;
+    return time >= start + seconds ? to : from + ((to - from) * (time - start)) / seconds;
+  }
+}
+
+/** An effect: all of it is in memory. */
+class Effect {
+  constructor(context, buffer, output, onEnd) {
+    this.#source = context.createBufferSource();
+    this.#source.buffer = buffer;
+    this.#fader = new Fader(context);
+    this.#source.connect(this.#fader.node).connect(output);
+    this.#source.onended = onEnd;
+    this.#source.start();
+  }
+  #source;
+  #fader;
+
+  fade({ silence, stop }) {
+    this.#source.stop(this.#fader.goTo(silence, stop));
+  }
+
+  cut() {
+    this.#source.stop();
+  }
+}
+
+/** A piece of music: the browser fetches and decodes it as it goes on. */
+class Piece {
+  #audio;
+  #fader;
+
+  constructor(context, file, output) {
+    this.#audio = new Audio(file);
+    this.#fader = new Fader(context);
+    context.createMediaElementSource(this.#audio).connect(this.#fader.node).connect(output);
+    this.resume();
+  }
+
+  /** Browsers refuse to sound before the player's first deed; from there on it is asked again. */
+  resume() {
+    if (this.#audio.paused && !this.#audio.ended) this.#audio.play().catch(() => {});
+  }
+
+  fade({ silence, stop }) {
+    this.#fader.goTo(silence, stop);
+    setTimeout(() => this.cut(), stop);
+  }
+
+  /** Without its address it lets go of what it has fetched. */
+  cut() {
+    this.#audio.pause();
+    this.#audio.removeAttribute("src");
+    this.#audio.load();
+    this.#fader.node.disconnect();
+  }
+}
 
 export class Sound {
   #context = null;
   #files;
+  #mix;
   #buffers = new Map();
   #channels = new Map();
-  #music = null;
+  #music = null; // fader of all music
   #over = 0; // sounds over the music
 
   /** `files` maps the names that the program uses to what lies on the server; a file that it does not have is silent. */
@@ -16,34 +99,47 @@ export class Sound {
     this.#files = files;
   }
 
+  /** The table of levels, in decibels, and of fades, in milliseconds: underSound, silence, back, up, stop. */
+  mix(table) {
+    this.#mix = table;
+  }
+
   /** Browsers let a page sound from the player's first deed on. */
   wake() {
     this.#context ??= this.#makeContext();
-    if (this.#context?.state === "suspended") this.#context.resume().catch(() => {});
+    if (this.#context?.state !== "suspended") return;
+    this.#context.resume().catch(() => {});
+    for (const { sound } of this.#channels.values()) if (sound instanceof Piece) sound.resume();
   }
 
   async play(channel, name, overMusic) {
     const file = this.#files[name];
     this.wake();
     if (file === undefined || this.#context === null) return;
-    const isMusic = name.endsWith(".mid");
-    if (isMusic) for (const key of this.#channels.keys()) if (this.#channels.get(key).isMusic) this.stop(key);
-    this.#stopNow(channel);
-    const sounding = { isMusic, overMusic };
-    this.#channels.set(channel, sounding);
-    const buffer = await this.#load(file, isMusic);
+    if (name.endsWith(".mid")) return this.#playMusic(channel, file);
+    this.#channels.get(channel)?.sound?.cut();
+    const playing = { isMusic: false, sound: null };
+    this.#channels.set(channel, playing);
+    const buffer = await this.#load(file);
     // While the file came the channel may have been given something else to do.
-    if (buffer && this.#channels.get(channel) === sounding) this.#start(channel, sounding, buffer);
+    if (buffer === null || this.#channels.get(channel) !== playing) return;
+    if (overMusic) this.#goBack(1);
+    playing.sound = new Effect(this.#context, buffer, this.#context.destination, () => {
+      if (overMusic) this.#goBack(-1);
+      if (this.#channels.get(channel) === playing) this.#channels.delete(channel);
+    });
+  }
+
+  #playMusic(channel, file) {
+    for (const [key, { isMusic }] of this.#channels) if (isMusic) this.stop(key);
+    this.#channels.set(channel, { isMusic: true, sound: new Piece(this.#context, file, this.#music.node) });
   }
 
   /** Fades what the channel sounds. */
   stop(channel) {
-    const sounding = this.#channels.get(channel);
+    const playing = this.#channels.get(channel);
     this.#channels.delete(channel);
-    if (!sounding?.source) return;
-    const now = this.#context.currentTime;
-    sounding.gain.gain.setTargetAtTime(0, now, FADE / 3);
-    sounding.source.stop(now + FADE);
+    playing?.sound?.fade(this.#mix);
   }
 
   /** The warning sound. */
@@ -64,44 +160,28 @@ export class Sound {
   #makeContext() {
     try {
       const context = new AudioContext();
-      this.#music = context.createGain();
-      this.#music.connect(context.destination);
+      this.#music = new Fader(context);
+      this.#music.node.connect(context.destination);
       return context;
     } catch {
       return null;
     }
   }
 
-  #stopNow(channel) {
-    this.#channels.get(channel)?.source?.stop();
-    this.#channels.delete(channel);
-  }
-
-  #start(channel, sounding, buffer) {
-    sounding.source = this.#context.createBufferSource();
-    sounding.source.buffer = buffer;
-    sounding.gain = this.#context.createGain();
-    sounding.source.connect(sounding.gain).connect(sounding.isMusic ? this.#music : this.#context.destination);
-    if (sounding.overMusic) this.#duck(1);
-    sounding.source.onended = () => {
-      if (sounding.overMusic) this.#duck(-1);
-      if (this.#channels.get(channel) === sounding) this.#channels.delete(channel);
-    };
-    sounding.source.start();
-  }
-
-  #duck(step) {
+  #goBack(step) {
+    const { underSound, back, up } = this.#mix;
+    const before = this.#over;
     this.#over += step;
-    this.#music.gain.setTargetAtTime(this.#over > 0 ? DUCKED : 1, this.#context.currentTime, FADE / 3);
+    if (before === 0) this.#music.goTo(underSound, back);
+    if (this.#over === 0) this.#music.goTo(0, up);
   }
 
-  /** Effects are kept, music is not: a piece decoded is large. */
-  async #load(file, isMusic) {
+  async #load(file) {
     if (this.#buffers.has(file)) return this.#buffers.get(file);
     try {
       const response = await fetch(file);
       const buffer = await this.#context.decodeAudioData(await response.arrayBuffer());
-      if (!isMusic) this.#buffers.set(file, buffer);
+      this.#buffers.set(file, buffer);
       return buffer;
     } catch {
       return null;

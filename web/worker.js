@@ -12,16 +12,27 @@ self.addEventListener("activate", (event) => {
 });
 
 // What is kept answers at once; what is not (the music and the largest pictures, until they have been asked for) is fetched, and kept then.
-async function answer(request) {
+// Music is asked for by parts: it is fetched whole, so that it can be kept while it sounds, and cut when it has been kept.
+async function answer(event) {
+  const { request } = event;
+  const range = request.headers.get("range");
   const cache = await caches.open(CACHE);
   const kept = await cache.match(request, { ignoreSearch: true });
-  if (kept) return kept;
-  const response = await fetch(request);
-  if (response.status === 200) await cache.put(request, response.clone());
+  if (kept) return range === null ? kept : part(kept, range);
+  const response = await fetch(range === null ? request : request.url);
+  if (response.status === 200) event.waitUntil(cache.put(request.url, response.clone()));
   return response;
+}
+
+async function part(whole, range) {
+  const bytes = await whole.blob();
+  const [, first, last] = /^bytes=(\d+)-(\d*)$/.exec(range) ?? [range, "0", ""];
+  const end = last === "" ? bytes.size : Math.min(Number(last) + 1, bytes.size);
+  const headers = { "content-type": bytes.type, "content-range": `bytes ${first}-${end - 1}/${bytes.size}` };
+  return new Response(bytes.slice(Number(first), end), { status: 206, headers });
 }
 
 self.addEventListener("fetch", (event) => {
   const isOwn = new URL(event.request.url).origin === self.location.origin;
-  if (event.request.method === "GET" && isOwn) event.respondWith(answer(event.request));
+  if (event.request.method === "GET" && isOwn) event.respondWith(answer(event));
 });

@@ -9,7 +9,7 @@ import puppeteer from "puppeteer-core";
 export const site = new URL(process.env.ZARPI_SITE ?? "../../build/web/juego/", import.meta.url);
 const TYPES = {
   ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".json": "application/json",
-  ".wasm": "application/wasm", ".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2",
+  ".wasm": "application/wasm", ".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2", ".ogg": "audio/ogg",
 };
 const OPTIONS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
   "--disable-component-update", "--disable-sync"];
