@@ -59,9 +59,8 @@ void Letras::ProbarLetra() {
 }
 
 bool Letras::RechazarRepetida() {
-    // All twenty entries are looked at: an empty letter, from a box beyond the word, equals an empty entry.
-    const bool tried =
-        std::find(z.LetrasIntentadas.begin() + 1, z.LetrasIntentadas.end(), z.Letra) != z.LetrasIntentadas.end();
+    // A joker's box beyond the word has no letter; it is answered in the same way.
+    const bool tried = z.Letra.empty() || std::ranges::find(z.LetrasIntentadas, z.Letra) != z.LetrasIntentadas.end();
     if (tried) z.Label5.Caption = u"Repetida.";
     return tried;
 }

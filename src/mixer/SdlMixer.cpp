@@ -1,9 +1,9 @@
 #include "mixer/SdlMixer.h"
 
+#include <QFile>
 #include <QtGlobal>
 #include <SDL.h>
 
-#include "mixer/Rendition.h"
 
 namespace platform::desktop {
 
@@ -21,6 +21,12 @@ constexpr auto kMissed = 1s;          // of a piece, before it is taken up where
 
 constexpr int kStereo = 2;
 constexpr int kBlock = 1024;  // frames, 23 ms
+
+/// The recording beside the notes, where there is one. Notes of the player's own have none in their folder.
+std::string FileToSound(const std::string& midi) {
+    const std::string ogg = midi.substr(0, midi.rfind('.')) + ".ogg";
+    return QFile::exists(QString::fromStdString(ogg)) ? ogg : midi;
+}
 
 bool IsMusic(const std::string& file) {
     return file.ends_with(".mid");

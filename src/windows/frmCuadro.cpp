@@ -7,6 +7,8 @@
 
 namespace juego {
 
+static_assert(ArchivosHonor.size() == Modos.size(), "Every mode has its board.");
+
 frmCuadro::frmCuadro(Zarpi& zarpi, Forms& forms, Files& files, Printer& printer)
     : Form("frmCuadro", {.Caption = u"Cuadro de honor",
                          .Width = 10950,

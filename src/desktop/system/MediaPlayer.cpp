@@ -43,7 +43,6 @@ void MediaPlayer::Command(const MediaChannel& channel, MediaCommand command) {
         files_[channel.Name] = QFileInfo(AssetPath(channel.FileName)).absoluteFilePath().toStdString();
     if (command == MediaCommand::Open || command == MediaCommand::Prev) return;  // nothing to be heard
     MediaOrder order{channel.Name, files_[channel.Name], command, channel.OverMusic};
-    if (command == MediaCommand::Close) files_.erase(channel.Name);
     {
         const std::lock_guard lock(mutex_);
         orders_.push_back(std::move(order));
