@@ -93,7 +93,6 @@ async function starts(address) {
  * key to the frame, most of which is the wait for the screen's next beat.
  */
 async function keys(player) {
-  await player.startGame("Ana");
   await player.page.evaluate(() => {
     globalThis.spans = [];
     addEventListener("keydown", (event) => {
@@ -127,8 +126,10 @@ async function idle(player) {
   const before = await read();
   await pause(IDLE);
   const after = await read();
-  const names = ["TaskDuration", "ScriptDuration", "LayoutCount", "RecalcStyleCount"];
-  return names.map((name) => `${name} ${(after[name] - before[name]).toFixed(4)}`).join(", ");
+  const share = (name) => `${(((after[name] - before[name]) * 100000) / IDLE).toFixed(2)} %`;
+  const count = (name) => after[name] - before[name];
+  return `${share("TaskDuration")} of a core, of it ${share("ScriptDuration")} the program and the page's scripts; ` +
+    `${count("LayoutCount")} layouts, ${count("RecalcStyleCount")} styles`;
 }
 
 const server = await serve({ "/empty.html": "<!doctype html><title>Empty</title><body style='background:#ddd'>" });
@@ -143,10 +144,12 @@ console.log(`empty page ${paint.toFixed(0)} ms, first window ${shown.toFixed(0)}
 const { browser, close } = await launch();
 const player = await Player.enter(browser, server.address, { prepare: fixed(2) });
 console.log("idle at the presentation:", await idle(player));
+await player.startGame("Ana");
+console.log("idle in a word in play:", await idle(player));
+if (!/^00:0[1-9]|^00:1/.test(await player.see("Zarpi.lblTiempo").then((text) => text.slice(3)))) throw new Error("no word is in play");
 const spans = await keys(player);
 const told = spans.map(({ work, drawing, frame }) => [work, drawing, frame].map((span) => span.toFixed(1)).join("/"));
 console.log("keys, milliseconds of work/of drawing/to the frame:", told.join(" "));
-console.log("idle in a word:", await idle(player));
 console.log(`memory of the browser in a word, with music: ${(await memory(browser)).toFixed(0)} MB`);
 await close();
 server.close();
