@@ -14,6 +14,7 @@ from poses import POSES
 from rig import draw_head
 
 SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
+WEB_SIZES = (192, 512)
 DIALOG_SIZES = (16, 24, 32, 48, 64)
 
 # The head on a grid of 16, for sizes at which whiskers and lids would be mud. The left half; the right one mirrors it.
@@ -93,6 +94,15 @@ def _tile(size: int) -> Ink:
         for x, y, angle in ((0.15, 0.84, -20), (0.86, 0.86, 24)):
             paw_print(ink, Affine().move(size * x, size * y).turn(angle).scale(size * 0.0072), "#ffffff", 0.2)
     _portrait(ink, size * 0.5, size * 0.645, size * 0.0108, size * 0.026, size * 0.004)
+    return ink
+
+
+def maskable_icon(size: int) -> Ink:
+    """For systems that cut icons to a shape of their own: the head within the inner four fifths, the ground to the edges."""
+    ink = Ink(size, size, weight=size * 0.024, depth=size * 0.028)
+    ground = radial(ink, (0, "#43d0be"), (1, "#12807f"), centre=(0.4, 0.3), reach=0.9)
+    ink.raw(f'<rect x="-9" y="-9" width="{size + 18}" height="{size + 18}" fill="{ground}"/>')
+    _portrait(ink, size * 0.5, size * 0.58, size * 0.0064, size * 0.018, size * 0.003)
     return ink
 
 

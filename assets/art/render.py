@@ -19,7 +19,7 @@ from typing import Callable, Iterator, NamedTuple
 
 from dialogs import STARS, WASHES, advert, star_picture, wash
 from diploma import curtain, diploma
-from icons import DIALOG_SIZES, SIZES, application_icon, dialog_icon
+from icons import DIALOG_SIZES, SIZES, WEB_SIZES, application_icon, dialog_icon, maskable_icon
 from ink import Ink, sticker
 from poses import POSES
 from rig import draw
@@ -82,6 +82,9 @@ def pictures() -> Iterator[Picture]:
         yield Picture(f"game/forms/icondialogo{suffix}", lambda n=size: dialog_icon(n), ".png", ONCE)
     for size in SIZES:
         yield Picture(f"icons/hicolor/{size}x{size}/apps/zarpi", lambda n=size: application_icon(n), ".png", ONCE)
+    for size in WEB_SIZES:
+        yield Picture(f"icons/web/icon{size}", lambda n=size: application_icon(n), ".png", ONCE)
+    yield Picture(f"icons/web/maskable{WEB_SIZES[-1]}", lambda: maskable_icon(WEB_SIZES[-1]), ".png", ONCE)
 
 
 # Icons of several sizes in one file: name, drawing, sizes.
@@ -104,7 +107,7 @@ def write(picture: Picture, top: Path, work: Path) -> None:
         target = top / (picture.path + suffix + ending)
         target.parent.mkdir(parents=True, exist_ok=True)
         convert(rendered(ink, zoom, work), target, picture.quality - COARSER[zoom], picture.ending == ".bmp")
-        if zoom == 4 and ending == ".png":
+        if ending == ".png" and (zoom == 4 or picture.path.startswith("icons/web")):
             subprocess.run(["pngquant", "--speed", "1", "--strip", "--force", "--output", str(target), "256", str(target)], check=True)
         if ending != picture.ending:
             tell_source(target, top / (picture.path + picture.ending))
