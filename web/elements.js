@@ -1,6 +1,7 @@
 // One DOM element for each element of a window, at its place, in twips.
 
 import { make, setAttribute } from "./dom.js";
+import { inBrowser } from "./keys.js";
 import { available, fileOf, pictureOf } from "./pictures.js";
 import { placeText, setFont, twips } from "./text.js";
 
@@ -34,11 +35,19 @@ class Element {
     this.apply(state, twip);
   }
 
+  /** Marks the element as the one where a player is who has no mouse. */
+  ring(isHere) {
+    this.node.classList.toggle("here", isHere);
+    if (isHere && this.node.tabIndex < 0) this.node.tabIndex = -1;
+  }
+
   /** Takes the focus of the page. */
   focus() {
     this.node.focus({ preventScroll: true });
   }
 }
+
+const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
 
 class Label extends Element {
   constructor(state) {
@@ -46,8 +55,10 @@ class Label extends Element {
     this.text = make("span", this.node, { className: "text" });
   }
 
-  apply(state) {
+  apply(told) {
     const { node } = this;
+    const caption = inBrowser(told.caption, FINGERS.matches);
+    const state = { ...told, caption, spoken: told.spoken === told.caption ? caption : told.spoken };
     const edge = state.border ? 15 : 0;
     node.style.color = state.fore ?? "black";
     node.classList.toggle("centred", state.centred);
@@ -67,6 +78,7 @@ class Label extends Element {
     node.style.backgroundColor = state.snug ? "transparent" : ground;
     this.text.style.backgroundColor = state.snug ? ground : "";
     this.text.classList.toggle("snug", state.snug);
+    this.text.style.clipPath = state.masked ? `inset(-9em -9em -9em ${twips(state.masked - edge)})` : "";
     this.#name(state);
   }
 
@@ -97,9 +109,12 @@ class Picture extends Element {
     const picture = pictureOf(state);
     if (picture === undefined) return;
     const { style } = this.image;
-    style.width = this.fills ? "100%" : twips(15 * picture.width);
-    style.height = this.fills ? "100%" : twips(15 * picture.height);
-    const file = fileOf(picture, twip);
+    const pixel = 0.15 * state.percent;
+    style.width = this.fills ? "100%" : twips(pixel * picture.width);
+    style.height = this.fills ? "100%" : twips(pixel * picture.height);
+    this.node.classList.toggle("drawn", state.drawn !== undefined);
+    const isHigher = state.height * picture.width > 1.2 * state.width * picture.height;
+    const file = fileOf(picture, isHigher ? (twip * state.height) / (15 * picture.height) : (twip * state.percent) / 100);
     if (file === this.file) return;
     if (this.file === undefined) this.image.src = file;
     this.file = file;
@@ -166,6 +181,7 @@ class TextBox extends Element {
   apply(state) {
     const { node } = this;
     node.type = state.password ? "password" : "text";
+    node.classList.toggle("stars", state.password);
     node.setAttribute("aria-label", state.spoken);
     node.readOnly = state.locked;
     node.disabled = !state.enabled;

@@ -59,6 +59,8 @@ def furnish_pictures(assets: Path, site: Path):
     folder.mkdir()
     for size in ICON_SIZES:
         shutil.copy(assets / f"icons/hicolor/{size}x{size}/apps/zarpi.png", folder / f"icon{size}.png")
+    for path in sorted(assets.glob("icons/web/*.png")):
+        shutil.copy(path, folder)
     pictures = {}
     for name, path in picture_sources(assets):
         files = {size: f"pictures/{name}@{size}x.webp" for size in versions(path)}
@@ -93,6 +95,21 @@ def furnish_fonts(site: Path):
         subsetter.populate(text=characters)
         subsetter.subset(font)
         subset.save_font(font, str(site / "fonts" / f"{name}.woff2"), options)
+    write_stars(site / "fonts" / "stars.woff2")
+
+
+def write_stars(path: Path):
+    """A font in which the dots that browsers show of a password are stars."""
+    options = subset.Options(flavor="woff2", hinting=False, layout_features=[])
+    options.drop_tables += ["FFTM"]
+    font = subset.load_font(str(FONTS / "LiberationSans-Regular.ttf"), options)
+    dots = {0x2022: "asterisk", 0x25CF: "asterisk"}
+    for table in font["cmap"].tables:
+        table.cmap = dict(dots)
+    subsetter = subset.Subsetter(options)
+    subsetter.populate(unicodes=dots)
+    subsetter.subset(font)
+    subset.save_font(font, str(path), options)
 
 
 def write_worker(page: Path, site: Path):

@@ -9,6 +9,20 @@ const CHARACTERS = { Enter: 13, Escape: 27, Backspace: 8 };
 const F1 = 112;
 const SHIFT_TAB = 265;
 
+/** Shortcuts that browsers keep for themselves. */
+const RESERVED = /^Ctrl\+[NTW]$/;
+
+/** The shortcut of a menu entry as it works in a browser. */
+export function working(shortcut) {
+  return RESERVED.test(shortcut) ? shortcut.replace("Ctrl", "Mayús+Alt") : shortcut;
+}
+
+/** A text of the game that tells a shortcut, as it is true in a browser; `byFingers`: where there is no keyboard. */
+export function inBrowser(text, byFingers) {
+  if (byFingers) return text.replace(/ o Ctrl \+ [NTW]/, ", en el menú Juego");
+  return text.replace(/Ctrl \+ ([NTW])/, "Mayús+Alt+$1, o el menú Juego");
+}
+
 /** The key of a character. */
 export function keyOfCharacter(character) {
   return [0, character.charCodeAt(0), 0];

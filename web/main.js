@@ -5,10 +5,12 @@ import { keyOfCharacter, keyOfPress, shortcutLetter } from "./keys.js";
 import { Loop } from "./loop.js";
 import { assets, compiled, opened } from "./opening.js";
 import { keepAll, loadAll, setPictures } from "./pictures.js";
+import { placeForPrinter } from "./printing.js";
 import { Program } from "./program.js";
 import { Sound } from "./sound.js";
 import { loadFonts } from "./text.js";
-import { Window } from "./window.js";
+import { Voice } from "./voice.js";
+import { barHeight, Window } from "./window.js";
 
 /** Milliseconds that the first window has the network and the processor for itself. */
 const HEAD_START = 500;
@@ -17,11 +19,21 @@ const HEAD_START = 500;
 const FINGERS = matchMedia("(hover: none) and (pointer: coarse)");
 
 /** What a player has asked of the system for all programs: letters that stand out, nothing that blinks. */
-const WISHES = [matchMedia("(prefers-contrast: more)"), matchMedia("(prefers-reduced-motion: reduce)")];
+const WISHES = [
+  matchMedia("(prefers-contrast: more), (forced-colors: active)"),
+  matchMedia("(prefers-reduced-motion: reduce)"),
+];
+
+/** Whether the focus of the page is nowhere, so that the window in front may have it. */
+function isNobody(active) {
+  return !active || active === document.body || active.matches("dialog, :disabled") || active.closest("[hidden], [inert]") !== null;
+}
 
 class Page {
   #windows = new Map();
   #keyboard = false; // to be opened when the main window is in front
+  #voice = new Voice();
+  #isPrinting = false; // the browser prints by itself
 
   constructor(storage, sounds) {
     this.sound = new Sound(sounds);
@@ -36,11 +48,12 @@ class Page {
   listen() {
     addEventListener("keydown", (event) => this.#key(event));
     addEventListener("resize", () => this.#resize());
+    addEventListener("beforeprint", () => this.#printFront());
     for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
     const help = document.getElementById("help");
     help.addEventListener("click", async () => {
       const { showHelp } = await import("./help.js");
-      await showHelp(this.storage);
+      await showHelp(this.storage, FINGERS.matches);
       this.front?.takeFocus();
     });
   }
@@ -52,10 +65,16 @@ class Page {
     if (WISHES.some(({ matches }) => matches)) tell();
   }
 
+  /** Tells the program how much room a window has. */
+  tellRoom() {
+    const height = Math.max(1, Math.round(innerHeight - barHeight()));
+    this.loop.send("room", String(innerWidth), String(height), FINGERS.matches ? "1" : "0");
+  }
+
   #show(message) {
     for (const object of message) this.#deeds[object.do]?.(object);
     for (const window of this.#windows.values()) window.levelTexts();
-    if (this.front && !this.front.hasFocus && !document.querySelector("dialog.message")) this.front.takeFocus();
+    if (isNobody(document.activeElement) && !document.querySelector("dialog.message")) this.front?.takeFocus();
     this.#openKeyboard();
   }
 
@@ -75,7 +94,10 @@ class Page {
     },
     layers: ({ form, names }) => this.#windows.get(form).showLayers(names),
     focus: ({ form, name }) => this.#windows.get(form).showFocus(name),
-    say: ({ text }) => this.front?.say(text),
+    ring: ({ form, name }) => {
+      for (const window of this.#windows.values()) window.showRing(window.name === form ? name : null);
+    },
+    say: ({ text }) => this.#voice.say(text),
     beep: () => this.sound.beep(),
     mix: (table) => this.sound.mix(table),
     play: ({ channel, file, overMusic }) => this.sound.play(channel, file, overMusic),
@@ -92,20 +114,37 @@ class Page {
     this.#windows.set(form, window);
     // The window comes up when all of it has been told.
     queueMicrotask(() => this.#windows.get(form) === window && window.open());
+    this.#moveVoice();
   }
 
   #close(form) {
-    this.#windows.get(form)?.close();
+    const window = this.#windows.get(form);
     this.#windows.delete(form);
+    this.#moveVoice();
+    window?.close();
     if (this.front) {
       document.title = this.front.node.getAttribute("aria-label");
       this.front.takeFocus();
     }
   }
 
+  #moveVoice() {
+    this.#voice.moveTo(this.front?.modal ? this.front.node : document.body);
+  }
+
   async #print(window) {
-    const { printWindow } = await import("./printing.js");
-    printWindow(window);
+    const pictures = placeForPrinter(window);
+    if (this.#isPrinting) return;
+    await pictures;
+    print();
+  }
+
+  /** The browser prints what the window in front would. */
+  #printFront() {
+    if (document.getElementById("print").hasChildNodes()) return;
+    this.#isPrinting = true;
+    this.loop.send("print");
+    this.#isPrinting = false;
   }
 
   async #answer(asked) {
@@ -129,21 +168,24 @@ class Page {
   }
 
   #resize() {
+    this.tellRoom();
     for (const window of this.#windows.values()) window.resize();
   }
 
   #key(event) {
     const { front } = this;
     if (!front || document.querySelector("dialog.message") || event.isComposing) return;
-    if (this.#openMenus(event)) return event.preventDefault();
+    if (this.#openMenus(event) || this.#leaveHelp(event)) return event.preventDefault();
+    const isOfPage = event.target.matches("#help, .offer, .foot button");
+    if (isOfPage && ["Enter", " ", "Tab"].includes(event.key)) return;
     const key = keyOfPress(event);
-    if (key === null || event.key === "Tab") return;
+    if (key === null) return;
     const edits = event.target.matches(".textBox") && key[0] !== 13 && key[0] !== 27;
     if (!this.loop.isReady && edits) return;
     // A repetition is decided by the program, from what the browser says and when.
     const leaves = this.loop.send("key", ...key.map(String), event.repeat ? "1" : "0", String(Math.round(event.timeStamp)));
     if (leaves && edits) return this.#keepPage(event, edits);
-    if (!leaves || !this.#belongsToBrowser(event)) event.preventDefault();
+    if (!leaves || !(event.key === "Tab" || this.#belongsToBrowser(event))) event.preventDefault();
   }
 
   #keepPage(event, edits) {
@@ -155,6 +197,14 @@ class Page {
     const letter = shortcutLetter(event);
     if (letter === null) return event.ctrlKey || event.metaKey || /^F([6-9]|1\d)$/.test(event.key);
     return ![...this.#windows.values()].some((window) => window.menus?.hasShortcut(`Ctrl+${letter}`));
+  }
+
+  /** From the help's button Tab leads back into the window, and with Shift to its menus. */
+  #leaveHelp(event) {
+    if (event.key !== "Tab" || event.target.id !== "help") return false;
+    if (event.shiftKey && this.front.menus) this.front.menus.focus();
+    else this.front.takeFocus();
+    return true;
   }
 
   #openMenus(event) {
@@ -176,6 +226,7 @@ async function start() {
   page.listen();
   page.loop.start(program);
   page.heedWishes();
+  page.tellRoom();
   if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
   keepForLater(() => page.front?.twip ?? 1 / 15);
 }

@@ -1,14 +1,10 @@
 // The menu bar of a window, by the pattern that screen readers know: arrows, Enter, Esc, first letters.
 
 import { make, setAttribute } from "./dom.js";
+import { working } from "./keys.js";
 
-/** Shortcuts that browsers keep for themselves. */
-const RESERVED = /^Ctrl\+[NTW]$/;
-
-/** The shortcut as it works in a browser. */
-function working(shortcut) {
-  return RESERVED.test(shortcut) ? shortcut.replace("Ctrl", "Mayús+Alt") : shortcut;
-}
+/** What an entry is that can bear a check mark. */
+const ROLES = { none: "menuitem", own: "menuitemcheckbox", oneOf: "menuitemradio" };
 
 export class MenuBar {
   #entries = new Map();
@@ -42,8 +38,8 @@ export class MenuBar {
     entry.shortcut.textContent = working(state.shortcut);
     entry.node.setAttribute("aria-disabled", String(!state.enabled));
     if (state.parent === "") return;
-    entry.node.setAttribute("role", state.checked ? "menuitemcheckbox" : "menuitem");
-    setAttribute(entry.node, "aria-checked", state.checked ? "true" : null);
+    entry.node.setAttribute("role", ROLES[state.mark]);
+    setAttribute(entry.node, "aria-checked", state.mark === "none" ? null : String(state.checked));
   }
 
   /** Whether an entry has this shortcut. */
@@ -150,9 +146,9 @@ export class MenuBar {
     const entry = this.#entryOf(event);
     if (!entry || event.ctrlKey || event.metaKey) return;
     event.stopPropagation();
-    if (event.key === "Tab") return;
     event.preventDefault();
-    if (event.key === "Escape") this.#leaveAll();
+    if (event.key === "Tab" && !event.shiftKey) document.getElementById("help").focus(); // at the end of the bar
+    else if (event.key === "Escape" || event.key === "Tab") this.#leaveAll();
     else if (event.key === "ArrowRight" || event.key === "ArrowLeft") this.#moveAside(event.key === "ArrowRight" ? 1 : -1, entry);
     else if (entry.state.parent === "") this.#keyOnBar(event.key, entry);
     else this.#keyInMenu(event.key, entry);

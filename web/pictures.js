@@ -7,7 +7,8 @@ export function setPictures(pictures) {
   known = pictures;
 }
 
-function pictureInFile(file) {
+/** The picture of a file that the program opens by name; undefined for one that is not there. */
+export function pictureInFile(file) {
   return known[file.replace(/\.bmp$/, "")];
 }
 

@@ -3,26 +3,36 @@
 import { make } from "./dom.js";
 import { makeElement } from "./elements.js";
 import { MenuBar } from "./menus.js";
-import { narrowOrder } from "./narrow.js";
 import { available, fileOf, pictureNamed } from "./pictures.js";
 import { twips } from "./text.js";
 
 const DESIGN_TWIP = 1 / 15; // pixels
 const FINGER_TWIP = 44 / 405; // with which a text box is as large as a finger
-const DRAG_STEP = 5; // pixels
-const SPOKEN_LINES = 6;
 const READABLE = 9; // pixels, the size of letters
 const MUCH = 300; // characters
+const FINGERS = "(hover: none) and (pointer: coarse)";
+
+/** The height of a menu bar or a title, in pixels. */
+export function barHeight() {
+  return parseFloat(getComputedStyle(document.documentElement).fontSize) * (matchMedia("(pointer: coarse)").matches ? 2.75 : 2);
+}
+
+/** Whether the system passes on pictures. */
+function canShare() {
+  const picture = new File([], "diploma.png", { type: "image/png" });
+  return navigator.canShare?.({ files: [picture] }) === true;
+}
 
 export class Window {
   #elements = new Map();
   #twip = DESIGN_TWIP;
-  #order = null; // on a small screen
   #form = null;
   #isOpen = false;
   #isLevel = true;
   #focused = "";
-  #finger = 0;
+  #ringed = null;
+  #pressed = "";
+  #drawn = null; // what a finger is drawn across, and how far the keys of it have been pressed
 
   /** `send` takes an event for the program. */
   constructor(name, modal, send) {
@@ -32,8 +42,7 @@ export class Window {
     this.node = make(modal ? "dialog" : "section", document.getElementById("desk"), { className: "window", id: name });
     this.client = make("div", this.node, { className: "client", tabIndex: -1 });
     this.keys = this.#makeKeys();
-    this.spoken = make("div", this.node, { className: "spoken" });
-    this.spoken.setAttribute("role", "status");
+    this.foot = make("p", this.node, { className: "foot", hidden: true });
     this.#listen();
     if (modal) this.node.showModal();
   }
@@ -54,6 +63,7 @@ export class Window {
   showForm(form) {
     this.#form = form;
     if (!this.menus && !this.title) this.#makeTitle();
+    this.#showFoot();
     this.node.setAttribute("aria-label", form.caption);
     if (this.title) this.title.textContent = form.caption;
     this.client.style.backgroundColor = form.back ?? "";
@@ -66,6 +76,7 @@ export class Window {
       this.node.prepend(this.menus.node);
     }
     this.menus.show(state);
+    if (state.offer !== "") this.#showOffer(state);
   }
 
   showElement(state) {
@@ -105,18 +116,21 @@ export class Window {
     this.takeFocus();
   }
 
+  /** The player is at the element of this name by keyboard, whatever has the focus in the window; null: he is not. */
+  showRing(name) {
+    if (this.#ringed === name) return;
+    this.#elements.get(this.#ringed)?.ring(false);
+    this.#ringed = name;
+    this.#elements.get(name)?.ring(true);
+    this.takeFocus();
+  }
+
   /** Gives the focus of the page to what has it in the window. */
   takeFocus() {
-    const element = this.#elements.get(this.#focused);
+    const element = this.#elements.get(this.#ringed ?? this.#focused);
     if (element && !element.node.hidden && !element.node.disabled) element.focus();
     else if (matchMedia("(pointer: coarse)").matches) this.client.focus({ preventScroll: true });
     else this.keys.focus({ preventScroll: true });
-  }
-
-  /** Tells a player who listens. Each text is a line of its own, so that the same one is heard again. */
-  say(text) {
-    make("p", this.spoken, { textContent: text });
-    while (this.spoken.children.length > SPOKEN_LINES) this.spoken.firstChild.remove();
   }
 
   /** Whether the focus of the page is somewhere in the window. */
@@ -136,25 +150,24 @@ export class Window {
    */
   resize() {
     if (!this.#isOpen) return;
-    const bar = this.menus?.node ?? this.title.parentElement;
-    const room = { width: innerWidth, height: innerHeight - bar.offsetHeight };
-    this.#order = narrowOrder(this.#form, room);
-    this.node.classList.toggle("narrow", this.#order !== null);
+    const room = { width: innerWidth, height: innerHeight - barHeight() - this.foot.offsetHeight };
+    this.node.classList.toggle("narrow", this.#form.narrow);
     this.#twip = this.#twipFor(room);
     this.node.style.setProperty("--twip", `${this.#twip}px`);
     this.#showGround();
     this.#layOut();
   }
 
-  /** A copy of the client area as it was designed, and its size in twips. */
+  /** A copy of the client area, and its size in twips. */
   copy() {
-    const order = this.#order;
-    this.#order = null;
-    this.#layOut();
-    const client = this.client.cloneNode(true);
-    this.#order = order;
-    this.#layOut();
-    return { client, width: this.#form.width, height: this.#form.height };
+    return { client: this.client.cloneNode(true), width: this.#form.width, height: this.#form.height };
+  }
+
+  /** What is seen of the window, from back to front, for whoever draws it himself, and its size in twips. */
+  get content() {
+    const order = ({ node }) => Number(node.style.zIndex);
+    const elements = [...this.#elements.values()].filter(({ told }) => told.visible).sort((a, b) => order(a) - order(b));
+    return { elements: elements.map(({ told }) => told), width: this.#form.width, height: this.#form.height };
   }
 
   get twip() {
@@ -163,7 +176,7 @@ export class Window {
 
   #twipFor(room) {
     const form = this.#form;
-    if (this.#order !== null) return this.#order.twip ?? this.node.clientWidth / this.#order.width;
+    if (form.narrow) return this.node.clientWidth / form.width;
     const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
     const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
     const least = matchMedia("(pointer: coarse)").matches ? FINGER_TWIP : DESIGN_TWIP;
@@ -171,7 +184,7 @@ export class Window {
   }
 
   #layOut() {
-    const { width, height } = this.#order ?? this.#form;
+    const { width, height } = this.#form;
     this.client.style.width = twips(width);
     this.client.style.height = twips(height);
     for (const element of this.#elements.values()) this.#place(element);
@@ -188,7 +201,7 @@ export class Window {
   }
 
   #place(element) {
-    element.show(this.#order?.place(element.told) ?? element.told, this.#twip);
+    element.show(element.told, this.#twip);
   }
 
   #showGround() {
@@ -198,6 +211,27 @@ export class Window {
     const file = fileOf(picture, this.#twip);
     if (this.client.style.backgroundImage === "") show(file);
     available(picture, file).then(show);
+  }
+
+  /** What is said below the window to who plays with fingers, and what can be done with it. */
+  #showFoot() {
+    const { fingerHint, shared } = this.#form;
+    const hint = matchMedia(FINGERS).matches ? fingerHint : "";
+    this.foot.replaceChildren(hint);
+    if (shared && canShare()) {
+      const button = make("button", this.foot, { type: "button", textContent: "Compartir" });
+      button.addEventListener("click", async () => (await import("./share.js")).share(this.content, this.#form.caption));
+    }
+    this.foot.hidden = this.foot.childNodes.length === 0 || this.foot.textContent === "";
+  }
+
+  /** A menu entry as a large button for the thumb, on a small screen. */
+  #showOffer({ name, offer, enabled }) {
+    if (!this.offer) {
+      this.offer = make("button", this.node, { type: "button", className: "offer", textContent: offer });
+      this.offer.addEventListener("click", () => this.send("click", this.name, name));
+    }
+    this.offer.hidden = !enabled;
   }
 
   #makeTitle() {
@@ -230,9 +264,9 @@ export class Window {
     this.client.addEventListener("input", (event) => this.#input(event));
     this.client.addEventListener("compositionstart", (event) => this.#composing(event, true));
     this.client.addEventListener("compositionend", (event) => this.#composing(event, false));
-    for (const touch of ["touchstart", "touchmove"]) {
-      this.client.addEventListener(touch, (event) => this.#drag(event), { passive: true });
-    }
+    this.client.addEventListener("pointerdown", (event) => this.#startDrawing(event));
+    this.client.addEventListener("pointermove", (event) => this.#draw(event));
+    for (const end of ["pointerup", "pointercancel"]) this.client.addEventListener(end, () => (this.#drawn = null));
     if (this.modal) this.node.addEventListener("cancel", (event) => event.preventDefault());
   }
 
@@ -242,20 +276,32 @@ export class Window {
     const row = event.target.closest("[data-row]");
     if (row) this.send("select", this.name, name, row.dataset.row);
     else if (state?.kind === "TextBox" || state?.kind === "ListBox") return;
-    else if (state?.clicks || state?.kind === "CommandButton") this.send("click", this.name, name);
+    else if (state?.clicks || state?.kind === "CommandButton") this.#press(event, name);
     else this.send("clickForm", this.name);
     if (!this.hasFocus && this.node.isConnected) this.takeFocus();
   }
 
-  /** A finger drawn across a window stands for the arrow keys. */
-  #drag(event) {
-    if (this.node.scrollWidth > this.node.clientWidth) return;
-    const [{ clientX }] = event.touches;
-    if (event.type === "touchstart" || event.touches.length > 1) this.#finger = clientX;
-    while (Math.abs(clientX - this.#finger) >= DRAG_STEP) {
-      const isRight = clientX > this.#finger;
-      this.#finger += isRight ? DRAG_STEP : -DRAG_STEP;
-      this.send("key", isRight ? "39" : "37", "0", "0");
+  /** A second click that comes soon on the same element belongs to a double click, which is one. */
+  #press(event, name) {
+    const isDouble = event.detail > 0 && event.detail % 2 === 0 && this.#pressed === name;
+    this.#pressed = name;
+    if (!isDouble) this.send("click", this.name, name);
+  }
+
+  #startDrawing(event) {
+    const drawn = this.#elements.get(event.target.closest("[data-name]")?.dataset.name)?.told.drawn;
+    this.#drawn = drawn && event.isPrimary ? { x: event.clientX, drawn } : null;
+  }
+
+  /** What is drawn goes with the finger: each step of it is a press of a key. */
+  #draw(event) {
+    if (this.#drawn === null || event.buttons === 0) return;
+    const [step, leftKey, rightKey] = this.#drawn.drawn;
+    const length = step * this.#twip;
+    while (Math.abs(event.clientX - this.#drawn.x) >= length) {
+      const isRight = event.clientX > this.#drawn.x;
+      this.#drawn.x += isRight ? length : -length;
+      this.send("key", String(isRight ? rightKey : leftKey), "0", "0", "0", "0");
     }
   }
 

@@ -66,7 +66,8 @@ struct VentanaZarpi : Form {
                      .FontSize = 21.75,
                      .FontBold = true,
                      .Align = Alignment::Left,
-                     .BorderStyle = 1}};
+                     .BorderStyle = 1,
+                     .Masked = 620}};
     Label lblMensajeTiem{*this, "lblMensajeTiem", {9630, 120, 2325, 375}, Heading(u"Tiempo indefinido", 12)};
 
     // Score, word, message
@@ -117,7 +118,7 @@ struct VentanaZarpi : Form {
 
     // Menus
     Menu mnuJuego{*this, "mnuJuego", {.Caption = u"&Juego"}};
-    Menu mnuNuevo{mnuJuego, "mnuNuevo", {.Caption = u"Nuevo", .Shortcut = ControlKey('N')}};
+    Menu mnuNuevo{mnuJuego, "mnuNuevo", {.Caption = u"Nuevo", .Shortcut = ControlKey('N'), .Offer = u"Nueva partida"}};
     Menu mnuSeparaci0{mnuJuego, "mnuSeparaci0", Separador()};
     Menu mnuReanudar{mnuJuego, "mnuReanudar", {.Caption = u"Reanudar partida", .Shortcut = ControlKey('R')}};
     Menu mnuSeparaci1{mnuJuego, "mnuSeparaci1", Separador()};
@@ -126,40 +127,60 @@ struct VentanaZarpi : Form {
     Menu mnuSeparaci2{mnuJuego, "mnuSeparaci2", Separador()};
     Menu mnuÚltimas{mnuJuego, "mnuÚltimas", {.Caption = u"Últimas partidas", .Shortcut = ControlKey('U')}};
     Menu mnuSeparaci3{mnuJuego, "mnuSeparaci3", Separador()};
-    Menu mnuSonido{mnuJuego, "mnuSonido", {.Caption = u"Sonido", .Shortcut = ControlKey('D'), .Checked = true}};
+    Menu mnuSonido{mnuJuego,
+                   "mnuSonido",
+                   {.Caption = u"Sonido", .Shortcut = ControlKey('D'), .Checked = true, .Mark = MenuMark::Own}};
     Menu mnuSeparaci4{mnuJuego, "mnuSeparaci4", Separador()};
     Menu mnuSalir{mnuJuego, "mnuSalir", {.Caption = u"Salir", .Shortcut = ControlKey('S')}};
 
     Menu mnuModos{*this, "mnuModos", {.Caption = u"&Modos"}};
-    Menu mnuCasteInglés{
-        mnuModos,
-        "mnuCasteInglés",
-        {.Caption = u"Castellano e inglés (15 y 15). 6 niveles", .Shortcut = ControlKey('E'), .Checked = true}};
+    Menu mnuCasteInglés{mnuModos,
+                        "mnuCasteInglés",
+                        {.Caption = u"Castellano e inglés (15 y 15). 6 niveles",
+                         .Shortcut = ControlKey('E'),
+                         .Checked = true,
+                         .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci5{mnuModos, "mnuSeparaci5", Separador()};
-    Menu mnuIngléscaste{mnuModos,
-                        "mnuIngléscaste",
-                        {.Caption = u"Inglés y castellano (15 y 15). 6 niveles", .Shortcut = ControlKey('Y')}};
+    Menu mnuIngléscaste{
+        mnuModos,
+        "mnuIngléscaste",
+        {.Caption = u"Inglés y castellano (15 y 15). 6 niveles", .Shortcut = ControlKey('Y'), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci6{mnuModos, "mnuSeparaci6", Separador()};
     Menu mnuCastellano{
-        mnuModos, "mnuCastellano", {.Caption = u"Castellano (las 30). 3 niveles", .Shortcut = ControlKey('C')}};
+        mnuModos,
+        "mnuCastellano",
+        {.Caption = u"Castellano (las 30). 3 niveles", .Shortcut = ControlKey('C'), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci7{mnuModos, "mnuSeparaci7", Separador()};
-    Menu mnuInglés{mnuModos, "mnuInglés", {.Caption = u"Inglés (las 30). 3 niveles", .Shortcut = ControlKey('I')}};
+    Menu mnuInglés{mnuModos,
+                   "mnuInglés",
+                   {.Caption = u"Inglés (las 30). 3 niveles", .Shortcut = ControlKey('I'), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci8{mnuModos, "mnuSeparaci8", Separador()};
     Menu mnuCasteInglésAlter{mnuModos,
                              "mnuCasteInglésAlter",
-                             {.Caption = u"Castellano o inglés (una de cada). 3 niveles", .Shortcut = ControlKey('O')}};
+                             {.Caption = u"Castellano o inglés (una de cada). 3 niveles",
+                              .Shortcut = ControlKey('O'),
+                              .Mark = MenuMark::OneOf}};
 
     Menu mnuTiempo{*this, "mnuTiempo", {.Caption = u"&Tiempo"}};
     Menu mnuIndefinido{
-        mnuTiempo, "mnuIndefinido", {.Caption = u"Indefinido", .Shortcut = PlainKey(KeyF5), .Checked = true}};
+        mnuTiempo,
+        "mnuIndefinido",
+        {.Caption = u"Indefinido", .Shortcut = PlainKey(KeyF5), .Checked = true, .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci9{mnuTiempo, "mnuSeparaci9", Separador()};
-    Menu mnuUnMinuto{mnuTiempo, "mnuUnMinuto", {.Caption = u"1 minuto", .Shortcut = PlainKey(KeyF1)}};
+    Menu mnuUnMinuto{
+        mnuTiempo, "mnuUnMinuto", {.Caption = u"1 minuto", .Shortcut = PlainKey(KeyF1), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci10{mnuTiempo, "mnuSeparaci10", Separador()};
-    Menu mnuDosMinutos{mnuTiempo, "mnuDosMinutos", {.Caption = u"2 minutos", .Shortcut = PlainKey(KeyF1 + 1)}};
+    Menu mnuDosMinutos{mnuTiempo,
+                       "mnuDosMinutos",
+                       {.Caption = u"2 minutos", .Shortcut = PlainKey(KeyF1 + 1), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci11{mnuTiempo, "mnuSeparaci11", Separador()};
-    Menu mnuTresMinutos{mnuTiempo, "mnuTresMinutos", {.Caption = u"3 minutos", .Shortcut = PlainKey(KeyF1 + 2)}};
+    Menu mnuTresMinutos{mnuTiempo,
+                        "mnuTresMinutos",
+                        {.Caption = u"3 minutos", .Shortcut = PlainKey(KeyF1 + 2), .Mark = MenuMark::OneOf}};
     Menu mnuSeparaci12{mnuTiempo, "mnuSeparaci12", Separador()};
-    Menu mnuCuatroMinutos{mnuTiempo, "mnuCuatroMinutos", {.Caption = u"4 minutos", .Shortcut = PlainKey(KeyF1 + 3)}};
+    Menu mnuCuatroMinutos{mnuTiempo,
+                          "mnuCuatroMinutos",
+                          {.Caption = u"4 minutos", .Shortcut = PlainKey(KeyF1 + 3), .Mark = MenuMark::OneOf}};
 
     Menu mnuCuadros{*this, "mnuCuadros", {.Caption = u"&Cuadros de honor"}};
     Menu mnuCasteInglésHonor{mnuCuadros, "mnuCasteInglésHonor", {.Caption = u"Castellano e inglés"}};

@@ -54,6 +54,13 @@ enum class FontName { MSSansSerif, Arial, CourierNew, TimesNewRoman };
 enum class Alignment { Left, Centre };
 enum class Kind { Label, PictureBox, Image, Shape, Line, CommandButton, TextBox, ListBox, Menu, Timer };
 
+/// What a finger does that is drawn across an element: for each step it presses a key.
+struct Pull {
+    int Step = 0;  ///< twips; 0: nothing
+    int LeftKey = KeyNone;
+    int RightKey = KeyNone;
+};
+
 /// What the elements of every kind have in common. An element registers itself with its form.
 class Control : public Place {
 public:
@@ -79,6 +86,9 @@ public:
 
     /// What a click does; a tick, for a timer. Set once, when the program is put together.
     std::function<void()> Click;
+
+    /// What a finger does on the element. Set once, like Click.
+    Pull Drawn{};
 
     /// What a screen reader calls the element; empty: it has nothing to say and is left out. Where this is not set,
     /// labels and buttons are called by their caption and pictures and figures are left out. Set once, like Click.
@@ -132,6 +142,7 @@ struct LabelLook {
     int BorderStyle = 0;  ///< 1: a single border
     Text ToolTipText{};
     bool Snug = false;  ///< the ground lies behind the text alone, not in the whole box
+    int Masked = 0;     ///< of the text, this many twips from the left edge of the box are not drawn
 
     bool operator==(const LabelLook&) const = default;
 };
@@ -222,11 +233,20 @@ struct ListBoxLook {
 using ListBox = Element<Kind::ListBox, ListBoxLook>;
 
 /// A menu of the menu bar, or an entry of one. Its check mark changes by the program alone, never by the click itself.
+/// What a menu entry's check mark means, if it can have one.
+enum class MenuMark {
+    None,   ///< it has none
+    Own,    ///< the entry switches something on and off
+    OneOf,  ///< of several entries one is chosen
+};
+
 struct MenuLook {
     Text Caption{};  ///< "&" stands before the mnemonic; "-" alone is a separator
     Key Shortcut{};
     bool Checked = false;
     bool Enabled = true;
+    MenuMark Mark = MenuMark::None;
+    Text Offer{};  ///< what a small screen writes on a large button for this entry; empty: it has none
 
     bool operator==(const MenuLook&) const = default;
 };

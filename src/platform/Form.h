@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Controls.h"
+#include "platform/Narrow.h"
 
 namespace platform {
 
@@ -22,6 +22,8 @@ struct FormLook {
     std::string Icon{};        ///< resource name
     bool MinButton = false;
     bool KeyPreview = false;  ///< the form gets every key before its controls
+    Text FingerHint{};        ///< told below the window to who plays with fingers alone; empty: nothing
+    bool Shared = false;      ///< a keepsake, which a platform offers to pass on as a picture
 
     bool operator==(const FormLook&) const = default;
 };
@@ -65,6 +67,9 @@ public:
     std::function<void(int keyAscii)> OnKeyPress;  ///< Windows-1252 or control code; with KeyPreview only
     std::function<void(int keyCode)> OnKeyDown;    ///< with KeyPreview only
     std::function<void()> OnQueryUnload;           ///< the closing routine
+
+    /// The order of the elements on a small screen; empty: they always stand as designed. Set once.
+    std::function<std::optional<Order>(const Room&)> Narrow;
 
     /// A key that helps players without a mouse or without sight, asked before anything else; false: it is none of
     /// these.

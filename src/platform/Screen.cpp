@@ -208,11 +208,13 @@ bool Screen::PressInList(Form& form, const Key& key) {
                                                        {KeyPageDown, list.ListIndex + kPage},
                                                        {KeyHome, 0},
                                                        {KeyEnd, last}}};
-    const auto* const line = std::ranges::find(lines, key.Code, &std::pair<int, int>::first);
-    if (line == lines.end() || last < 0) return false;
-    const int wanted = std::clamp(line->second, 0, last);
-    if (wanted != list.ListIndex) Select(list, wanted);
-    return true;
+    for (const auto& [code, line] : lines) {
+        if (code != key.Code || last < 0) continue;
+        const int wanted = std::clamp(line, 0, last);
+        if (wanted != list.ListIndex) Select(list, wanted);
+        return true;
+    }
+    return false;
 }
 
 bool Screen::Press(const Key& key) {

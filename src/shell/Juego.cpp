@@ -1,6 +1,7 @@
 #include "shell/Juego.h"
 
 #include "engine/Elecciones.h"
+#include "game/VentanaEstrecha.h"
 #include "records/Diario.h"
 #include "shell/Teclado.h"
 #include "stage/Escena.h"
@@ -24,6 +25,7 @@ void Juego::Start() {
 }
 
 void Juego::ConectarVentana() {
+    z.Narrow = [this](const Room& room) { return Estrecha(z, room); };
     z.OnLoad = [this] { Form_Load(); };
     z.OnQueryUnload = [this] { s.Forms.End(); };
     z.OnKeyPress = [this](int keyAscii) { letras.Form_KeyPress(keyAscii); };

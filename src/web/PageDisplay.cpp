@@ -84,7 +84,7 @@ bool PageDisplay::WaitForAnswer() {
         const Event event = NextEvent();
         if (event.front() == "answer") return Part(event, 1) == "1";
         const std::string& what = event.front();
-        if (what == "tick" || what == "unsaved" || what == "wishes") Take(event);
+        if (what == "tick" || what == "unsaved" || what == "wishes" || what == "room") Take(event);
     }
 }
 
@@ -100,6 +100,10 @@ bool PageDisplay::Take(const Event& event) {
     if (what == "key") return TakeKey(event);
     if (what == "tick") Tick();
     if (what == "unsaved" && OnUnsaved) OnUnsaved();
+    if (what == "print" && screen_->Front() != nullptr) Print(*screen_->Front());
+    if (what == "room") {
+        room_ = Room{NumberOf(Part(event, 1)), NumberOf(Part(event, 2)), Part(event, 3) == "1"};
+    }
     if (what == "wishes") Heed({.HighContrast = Part(event, 1) == "1", .Stillness = Part(event, 2) == "1"});
     const auto& shown = screen_->Shown();
     const auto form = std::ranges::find(shown, Part(event, 1), &Form::Name);
@@ -117,7 +121,7 @@ void PageDisplay::TakeInput(const Event& event, Form& form) {
     if (what == "focus") screen_->Focus(*control);
     if (what == "type" && control->kind == Kind::TextBox) {
         screen_->Type(static_cast<TextBox&>(*control), FromUtf8(Part(event, 3)));
-        windows_[&form].states.erase(control);  // what is in the box is not what the page was told
+        windows_[&form].elements.erase(control);  // what is in the box is not what the page was told
     }
     if (what == "select" && control->kind == Kind::ListBox) {
         screen_->Select(static_cast<ListBox&>(*control), NumberOf(Part(event, 3)));
@@ -158,22 +162,44 @@ void PageDisplay::TellChanges() {
 }
 
 void PageDisplay::TellChanges(const Form& form, Window& window) {
-    for (const Menu* menu : form.Menus()) TellState(window.states[menu], StateOf(*menu));
-    TellState(window.frame, StateOf(form));
-    for (const Control* control : form.Controls()) {
-        if (IsSeen(*control))
-            TellState(window.states[control], StateOf(*control, wishes_, screen_->IsMarked(*control)));
+    for (const Menu* menu : form.Menus()) {
+        const MenuLook& look = *menu;
+        const auto [told, isNew] = window.menus.try_emplace(menu, look);
+        if (!isNew && told->second == look) continue;
+        told->second = look;
+        Tell(StateOf(*menu));
     }
+    const auto order = form.Narrow && room_ ? form.Narrow(*room_) : std::nullopt;
+    const Order* const shown = order ? &*order : nullptr;
+    if (Frame frame = FrameOf(form, shown); window.frame != frame) {
+        Tell(StateOf(form, frame));
+        window.frame = std::move(frame);
+    }
+    TellElements(form, window, shown);
     TellLayers(form, window);
     const Control* const focus = form.Focus();
     if (std::exchange(window.focus, focus) == focus) return;
     Tell(Json("focus").Text("form", form.Name).Text("name", focus == nullptr ? "" : focus->FullName()).Done());
 }
 
-void PageDisplay::TellState(std::string& told, std::string state) {
-    if (told == state) return;
-    Tell(state);
-    told = std::move(state);
+void PageDisplay::TellElements(const Form& form, Window& window, const Order* order) {
+    for (const Control* control : form.Controls()) {
+        if (!IsSeen(*control)) continue;
+        Stand stand = AsDesigned(*control);
+        if (order != nullptr && control->Visible) stand = order->StandOf(*control);
+        Seen seen = SeenOf(*control, stand, wishes_, screen_->IsMarked(*control));
+        const auto [told, isNew] = window.elements.try_emplace(control);
+        if (!isNew && told->second == seen) continue;
+        Tell(StateOf(*control, seen));
+        told->second = std::move(seen);
+    }
+}
+
+void PageDisplay::Print(const Form& form) {
+    const auto room = std::exchange(room_, std::nullopt);
+    TellChanges();
+    Tell(Json("print").Text("form", form.Name).Done());
+    room_ = room;
 }
 
 void PageDisplay::TellLayers(const Form& form, Window& window) {

@@ -8,6 +8,7 @@
 #include "platform/HeldKey.h"
 #include "platform/Screen.h"
 #include "platform/Wishes.h"
+#include "web/States.h"
 
 namespace platform::web {
 
@@ -39,6 +40,9 @@ public:
     /// Tells the page all that has changed.
     void Show();
 
+    /// Has the page print what the client area of a form shows now, in its designed order.
+    void Print(const Form& form);
+
     /// Waits, while time passes and no window takes input, until the player has answered what the page asks. What he
     /// chose: false to cancel.
     bool WaitForAnswer();
@@ -48,8 +52,9 @@ public:
 private:
     /// What the page was last told of an open form.
     struct Window {
-        std::string frame;
-        std::map<const Control*, std::string> states;
+        std::optional<Frame> frame;
+        std::map<const Menu*, MenuLook> menus;
+        std::map<const Control*, Seen> elements;
         std::vector<const Control*> layers;
         const Control* focus = nullptr;
     };
@@ -60,15 +65,16 @@ private:
     void Heed(const Wishes& wishes);
     void Tick();
     void TellChanges(const Form& form, Window& window);
+    void TellElements(const Form& form, Window& window, const Order* order);
     void TellLayers(const Form& form, Window& window);
     void TellWake();
-    void TellState(std::string& told, std::string state);
 
     const Scheduler& scheduler_;
     Screen* screen_ = nullptr;
     HeldKey held_;
     const Control* here_ = nullptr;  // in the ring, as the page was last told
     Wishes wishes_;
+    std::optional<Room> room_;  // of a window below its bar
     std::map<const Form*, Window> windows_;
     std::string message_;  // objects, divided by commas
 };

@@ -54,8 +54,7 @@ bool PagePrinter::ShowDialog() {
 }
 
 void PagePrinter::PrintForm(const Form& form) {
-    display_.TellChanges();
-    display_.Tell(Json("print").Text("form", form.Name).Done());
+    display_.Print(form);
 }
 
 void PageMedia::Command(const MediaChannel& channel, MediaCommand command) {

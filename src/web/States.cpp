@@ -12,6 +12,7 @@ namespace {
 constexpr std::array<std::string_view, 10> kKinds = {"Label",         "PictureBox", "Image",   "Shape", "Line",
                                                      "CommandButton", "TextBox",    "ListBox", "Menu",  "Timer"};
 constexpr std::array<std::string_view, 4> kFonts = {"sans", "arial", "mono", "serif"};
+constexpr std::array<std::string_view, 3> kMarks = {"none", "own", "oneOf"};
 constexpr std::array<std::string_view, 3> kFigures = {"rectangle", "rounded", "oval"};
 
 template <class Look>
@@ -29,6 +30,7 @@ void Put(Json& json, const LabelLook& look) {
         .Flag("snug", look.Snug)
         .Flag("border", look.BorderStyle != 0)
         .Text("tip", look.ToolTipText);
+    if (look.Masked != 0) json.Number("masked", look.Masked);
 }
 
 void Put(Json& json, const PictureLook& look) {
@@ -79,22 +81,33 @@ LabelLook ReadableLook(const Label& label) {
     return look;
 }
 
-void PutLook(Json& json, const Control& control, bool highContrast) {
+Look LookOf(const Control& control, bool highContrast) {
     switch (control.kind) {
         case Kind::Label: {
             const auto& label = static_cast<const Label&>(control);
-            return Put(json, highContrast ? ReadableLook(label) : LabelLook(label));
+            return highContrast ? ReadableLook(label) : LabelLook(label);
         }
-        case Kind::PictureBox: return Put(json, static_cast<const PictureBox&>(control));
-        case Kind::Image: return Put(json, static_cast<const Image&>(control));
-        case Kind::Shape: return Put(json, static_cast<const Shape&>(control));
-        case Kind::Line: return Put(json, static_cast<const Line&>(control));
-        case Kind::CommandButton: return Put(json, static_cast<const CommandButton&>(control));
-        case Kind::TextBox: return Put(json, static_cast<const TextBox&>(control));
-        case Kind::ListBox: return Put(json, static_cast<const ListBox&>(control));
+        case Kind::PictureBox: return static_cast<const PictureBox&>(control);
+        case Kind::Image: return static_cast<const Image&>(control);
+        case Kind::Shape: return static_cast<const Shape&>(control);
+        case Kind::CommandButton: return static_cast<const CommandButton&>(control);
+        case Kind::TextBox: return static_cast<const TextBox&>(control);
+        case Kind::ListBox: return static_cast<const ListBox&>(control);
+        case Kind::Line:
         case Kind::Menu:
         case Kind::Timer: break;
     }
+    return static_cast<const Line&>(control);
+}
+
+/// Makes the letters of a look, if it has any, as many times as large.
+void ScaleLetters(Look& look, double scale) {
+    std::visit(
+        [scale](auto& one) {
+            if constexpr (requires { one.FontSize; }) one.FontSize *= scale;
+            if constexpr (requires { one.Masked; }) one.Masked = static_cast<int>(one.Masked * scale);
+        },
+        look);
 }
 
 /// The shortcut as a menu shows it: "Ctrl+N", "F5".
@@ -107,33 +120,60 @@ std::string ShortcutOf(const Key& key) {
 
 }  // namespace
 
-std::string StateOf(const Form& form) {
+Frame FrameOf(const Form& form, const Order* order) {
+    if (order == nullptr) return {.look = form, .width = form.Width, .height = form.Height};
+    return {.look = form, .width = order->Width, .height = order->Height, .isNarrow = order->FillsWidth};
+}
+
+std::string StateOf(const Form& form, const Frame& frame) {
     return Json("form")
         .Text("form", form.Name)
-        .Text("caption", form.Caption)
-        .Number("width", form.Width)
-        .Number("height", form.Height)
-        .Colour("back", form.BackColor)
-        .Text("background", form.Background)
+        .Text("caption", frame.look.Caption)
+        .Number("width", frame.width)
+        .Number("height", frame.height)
+        .Flag("narrow", frame.isNarrow)
+        .Colour("back", frame.look.BackColor)
+        .Text("background", frame.look.Background)
+        .Text("fingerHint", frame.look.FingerHint)
+        .Flag("shared", frame.look.Shared)
         .Done();
 }
 
-std::string StateOf(const Control& control, const Wishes& wishes, bool isMarked) {
+Seen SeenOf(const Control& control, const Stand& stand, const Wishes& wishes, bool isMarked) {
+    if (!stand.Visible) return {.stand = {Place{.Visible = false}}};
+    Seen seen{.stand = stand,
+              .look = LookOf(control, wishes.HighContrast),
+              .spoken = SpokenNameOf(control),
+              .clicks = control.Click != nullptr,
+              .isMarked = isMarked};
+    if (stand.Scale != 1) ScaleLetters(seen.look, stand.Scale);
+    return seen;
+}
+
+std::string StateOf(const Control& control, const Seen& seen) {
     Json json("element");
     json.Text("form", control.Owner.Name)
         .Text("name", control.FullName())
         .Text("kind", kKinds.at(static_cast<std::size_t>(control.kind)))
-        .Flag("visible", control.Visible);
-    if (!control.Visible) return json.Done();
-    json.Number("left", control.Left)
-        .Number("top", control.Top)
-        .Number("width", control.Width)
-        .Number("height", control.Height)
-        .Flag("clicks", control.Click != nullptr)
+        .Flag("visible", seen.stand.Visible);
+    if (!seen.stand.Visible) return json.Done();
+    json.Number("left", seen.stand.Left)
+        .Number("top", seen.stand.Top)
+        .Number("width", seen.stand.Width)
+        .Number("height", seen.stand.Height)
+        .Flag("clicks", seen.clicks)
         .Number("tab", TabIndexOf(control))
-        .Text("spoken", SpokenNameOf(control));
-    if (isMarked) json.Flag("marked", true);
-    PutLook(json, control, wishes.HighContrast);
+        .Text("spoken", seen.spoken);
+    if (seen.isMarked) json.Flag("marked", true);
+    if (control.Drawn.Step != 0) {
+        const double step = control.Drawn.Step * seen.stand.Scale;
+        json.Raw("drawn", "[" + std::to_string(static_cast<int>(step)) + "," + std::to_string(control.Drawn.LeftKey) +
+                              "," + std::to_string(control.Drawn.RightKey) + "]");
+    }
+    std::visit([&json](const auto& look) { Put(json, look); }, seen.look);
+    if (std::holds_alternative<PictureLook>(seen.look)) {
+        json.Number("percent", static_cast<long>(seen.stand.Scale * 100));
+    }
     return json.Done();
 }
 
@@ -146,6 +186,8 @@ std::string StateOf(const Menu& menu) {
         .Text("shortcut", ShortcutOf(menu.Shortcut))
         .Flag("checked", menu.Checked)
         .Flag("enabled", menu.Enabled)
+        .Text("mark", kMarks.at(static_cast<std::size_t>(menu.Mark)))
+        .Text("offer", menu.Offer)
         .Done();
 }
 

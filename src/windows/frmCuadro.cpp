@@ -4,6 +4,7 @@
 #include "game/Impresion.h"
 #include "game/Modos.h"
 #include "records/CuadrosDeHonor.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -18,6 +19,7 @@ frmCuadro::frmCuadro(Zarpi& zarpi, Forms& forms, Files& files, Printer& printer)
       z(zarpi),
       forms(forms),
       files(files) {
+    Narrow = StackedOrder(*this, verticales::Cuadro);
     OnLoad = [this] { Form_Load(); };
     cmdAceptar.Click = [this] { this->forms.Unload(*this); };
     cmdRestablecer.Click = [this] { cmdRestablecer_Click(); };

@@ -3,6 +3,7 @@
 #include "game/Impresion.h"
 #include "game/Modos.h"
 #include "sound/Sonido.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -22,7 +23,9 @@ frmDiploma::frmDiploma(Zarpi& zarpi, Forms& forms, Printer& printer, Media& medi
                           .Height = 8520,
                           .Background = "fondodiploma",
                           .Icon = "icondialogo",
-                          .KeyPreview = true}),
+                          .KeyPreview = true,
+                          .FingerHint = u"Arrastra las cortinas con el dedo para abrirlas.",
+                          .Shared = true}),
       z(zarpi),
       forms(forms),
       printer(printer),
@@ -35,6 +38,9 @@ frmDiploma::frmDiploma(Zarpi& zarpi, Forms& forms, Printer& printer, Media& medi
         this->media.Command(sonDiploma, MediaCommand::Prev);
     };
     Picture2.Click = Picture3.Click = [this] { Form_KeyDown(KeyLeft); };
+    Picture2.Drawn = {.Step = kCurtainStep, .LeftKey = KeyLeft, .RightKey = KeyRight};
+    Picture3.Drawn = {.Step = kCurtainStep, .LeftKey = KeyRight, .RightKey = KeyLeft};
+    Narrow = [this](const Room& room) { return Estrecho(room); };
     cmdAceptar.Click = [this] { this->forms.Unload(*this); };
     cmdImprimir.Click = [this] { cmdImprimir_Click(); };
 }
@@ -85,6 +91,29 @@ void frmDiploma::CorrerCortinas(int step) {
     Picture3.Width = AnchoCortina;
     Picture3.Left = IzqCortina;
     Text6.Visible = false;
+}
+
+std::optional<Order> frmDiploma::Estrecho(const Room& room) const {
+    auto order = StackedOrder(*this, verticales::Diploma)(room);
+    if (!order && room.ByFingers) order = Tumbado(room);
+    if (!order) return order;
+    order->StandOf = [this, standOf = order->StandOf](const Control& control) {
+        Stand stand = standOf(control);
+        if (&control == &Text6) stand.Visible = false;  // it speaks of keys
+        return stand;
+    };
+    return order;
+}
+
+/// As designed, but on a phone held sideways with the buttons at the side.
+Order frmDiploma::Tumbado(const Room& room) const {
+    const int widthAtHeight = verticales::AltoTumbado * room.Width / room.Height;
+    if (widthAtHeight < verticales::AnchoTumbado) {
+        return {.Width = Width, .Height = Height, .StandOf = AsDesigned, .FillsWidth = false};
+    }
+    return {.Width = widthAtHeight, .Height = verticales::AltoTumbado, .StandOf = [](const Control& control) {
+                return Moved(control, verticales::DeDiplomaTumbado);
+            }};
 }
 
 void frmDiploma::cmdImprimir_Click() {

@@ -44,6 +44,8 @@ private:
     static TextBoxLook Hueco(double size);
     void Form_Load();
     void Form_KeyDown(int keyCode);
+    [[nodiscard]] std::optional<Order> Estrecho(const Room& room) const;
+    [[nodiscard]] Order Tumbado(const Room& room) const;
     void CorrerCortinas(int step);
     void cmdImprimir_Click();
 

@@ -3,6 +3,7 @@
 #include "game/AvisoError.h"
 #include "game/Modos.h"
 #include "records/CuadrosDeHonor.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -48,6 +49,7 @@ frmFecha::frmFecha(Zarpi& zarpi, Forms& forms, Files& files, Media& media, const
       clock(clock),
       música(música),
       ceremonia(std::move(ceremonia)) {
+    Narrow = StackedOrder(*this, verticales::Fecha);
     OnLoad = [this] { Form_Load(); };
     OnQueryUnload = [this] { Form_QueryUnload(); };
     cmdAceptar.Click = [this, &forms] { forms.Unload(*this); };

@@ -1,6 +1,7 @@
 #include "windows/frmGuardar.h"
 
 #include "game/AvisoError.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -20,6 +21,7 @@ frmGuardar::frmGuardar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& file
       clock(clock),
       índices(índices),
       terminar(std::move(terminar)) {
+    Narrow = StackedOrder(*this, verticales::Guardar);
     OnLoad = [this] { txtFecha.Text = FormatDate(this->clock.Today()); };
     cmdGuardar.Click = [this] { cmdGuardar_Click(); };
     cmdCancelar.Click = [this] { this->forms.Unload(*this); };

@@ -4,6 +4,7 @@
 
 #include "game/Modos.h"
 #include "windows/Presentaciones.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -18,6 +19,7 @@ constexpr TextView kPose = u"Zarpi1.bmp";
 frmNivel::frmNivel(Zarpi& zarpi, Forms& forms)
     : Form("frmNivel", {.Width = 8475, .Height = 4590, .BackColor = 0xFFC080, .Background = "nivel", .Icon = "icon"}),
       z(zarpi) {
+    Narrow = StackedOrder(*this, verticales::Nivel);
     cmdAceptar.Click = [this, &forms] { forms.Unload(*this); };
     OnLoad = [this] { Form_Load(); };
 }

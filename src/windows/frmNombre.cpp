@@ -1,6 +1,7 @@
 #include "windows/frmNombre.h"
 
 #include "game/Plural.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -13,6 +14,7 @@ frmNombre::frmNombre(Zarpi& zarpi, Forms& forms)
                          .Background = "nombre",
                          .Icon = "icondialogo"}),
       z(zarpi) {
+    Narrow = StackedOrder(*this, verticales::Nombre);
     cmdAceptar.Click = [this, &forms] { forms.Unload(*this); };
     OnQueryUnload = [this] { Form_QueryUnload(); };
 }

@@ -2,6 +2,7 @@
 
 #include "game/Estilos.h"
 #include "platform/Services.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -15,6 +16,7 @@ public:
                              .Height = 8025,
                              .Background = "normas",
                              .Icon = "icondialogo"}) {
+        Narrow = StackedOrder(*this, verticales::Normas);
         cmdAceptar.Click = [this, &forms] { forms.Unload(*this); };
     }
 

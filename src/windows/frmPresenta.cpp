@@ -8,7 +8,8 @@ frmPresenta::frmPresenta(Zarpi& zarpi, Forms& forms)
                            .Height = 5835,
                            .Background = "title",
                            .Icon = "icon",
-                           .KeyPreview = true}),
+                           .KeyPreview = true,
+                           .FingerHint = u"Toca para empezar"}),
       z(zarpi),
       forms(forms) {
     OnLoad = [this] {

@@ -5,6 +5,7 @@
 #include "game/AvisoError.h"
 #include "game/Modos.h"
 #include "game/Reglas.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -21,6 +22,7 @@ frmReanudar::frmReanudar(Zarpi& zarpi, Forms& forms, Dialogs& dialogs, Files& fi
       files(files),
       índices(índices),
       acciones(std::move(acciones)) {
+    Narrow = StackedOrder(*this, verticales::Reanudar);
     OnLoad = [this] { Form_Load(); };
     OnQueryUnload = [this] { Form_QueryUnload(); };
     lstLista.Click = [this] { lstLista_Click(); };

@@ -3,6 +3,7 @@
 #include "game/AvisoError.h"
 #include "game/Impresion.h"
 #include "game/Modos.h"
+#include "windows/Verticales.h"
 
 namespace juego {
 
@@ -14,6 +15,7 @@ frmÚltimas::frmÚltimas(Zarpi& zarpi, Forms& forms, Files& files, Printer& prin
                           .Icon = "icondialogo"}),
       z(zarpi),
       files(files) {
+    Narrow = StackedOrder(*this, verticales::Últimas);
     OnLoad = [this] { Form_Load(); };
     cmdAceptar.Click = [this, &forms] { forms.Unload(*this); };
     cmdImprimir.Click = [this, &forms, &printer] {

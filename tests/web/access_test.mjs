@@ -26,7 +26,7 @@ test("people who hear or cannot use a mouse: no serious findings, names, sentenc
     assert.match(tree, new RegExp(`"(button|menuitem)","name":"${name}"`), name);
   }
   await player.press("w");
-  const told = await player.page.$eval("#Zarpi .spoken", (node) => node.innerText);
+  const told = await player.page.$eval("#spoken", (node) => node.innerText);
   assert.match(told, /Mal: W/);
   await player.press("F10", "ArrowLeft", "ArrowDown", "Enter");
   await player.front("frmNormas");

@@ -54,6 +54,29 @@ export async function saveGame(player, password) {
   await player.press("Enter");
 }
 
+/** A stored game that stands before its word 29, with the password "x": the counter and the record. */
+const LAST_WORDS = { "Ultimo.dat": " 1 \r\n", "Guardar.rnd": " 29 1 0 60 420 281" + "0Ana y Luis    7-3-2004   x          15   29   " };
+
+/** Takes up a game two words before its end. */
+export async function resumeAtTheEnd(player) {
+  await player.page.evaluate(async (files) => {
+    const wait = (request) => new Promise((done) => (request.onsuccess = () => done(request.result)));
+    const database = await wait(indexedDB.open("zarpi", 1));
+    const store = database.transaction("files", "readwrite").objectStore("files");
+    for (const [name, text] of Object.entries(files)) await wait(store.put(Uint8Array.from(text, (one) => one.charCodeAt(0)), name));
+    database.close();
+  }, LAST_WORDS);
+  await player.page.reload();
+  await player.page.waitForSelector("#frmPresenta .picture");
+  await player.page.click("#frmPresenta .client");
+  await player.menu("mnuJuego", "mnuReanudar");
+  await player.front("frmReanudar");
+  await player.page.$eval('[id="frmReanudar.txtContraseña"]', (node) => node.focus());
+  await player.page.keyboard.type("x");
+  await player.press("Enter");
+  await player.front("Zarpi");
+}
+
 /** Each window that a menu opens: menu, entry, form. */
 export const WINDOWS = [
   ["mnuAyuda", "mnuNormas", "frmNormas"],

@@ -7,10 +7,11 @@
 
 namespace platform::desktop {
 
-void LabelWidget::SetLook(const LabelLook& look, int lineWidth) {
+void LabelWidget::SetLook(const LabelLook& look, int lineWidth, int masked) {
     SetInk({look.BackColor, look.ForeColor}, look.Snug);
     centred_ = look.Align == Alignment::Centre;
     border_ = look.BorderStyle == 0 ? 0 : lineWidth;
+    masked_ = masked;
     framed_ = centred_ && (ground_.isValid() || border_ > 0);
     setTextFormat(Qt::PlainText);
     setText(ToQt(look.Caption));
@@ -86,6 +87,7 @@ void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
     const QPoint corner(TextBox().left(), TextTop(lines));
     if (ground_.isValid()) painter.fillRect(snug_ ? PlateOf(lines, corner) : QRectF(contentsRect()), ground_);
     if (border_ > 0) PaintBorder(painter);
+    if (masked_ > 0) painter.setClipRect(QRect(contentsRect()).adjusted(masked_, 0, 0, 0));
     painter.setPen(letters_);
     lines.Draw(painter, corner, centred_);
 }
@@ -108,7 +110,7 @@ void LabelView::Apply(const LabelLook& look) {
     const QFont font = toolkit_.Scale.Font(look.Font, look.FontSize, look.FontBold);
     widget_.setContentsMargins({});
     widget_.setGeometry(Geometry(element_));
-    widget_.SetLook(look, toolkit_.Scale.LineWidth(1));
+    widget_.SetLook(look, toolkit_.Scale.LineWidth(1), toolkit_.Scale.Pixels(look.Masked));
     widget_.setFont(font);
     needed_ = FittedFont(font, widget_.text(), widget_.TextBox().size()).pixelSize();
     family_ = FamilyOf(look);

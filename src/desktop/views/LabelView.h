@@ -14,8 +14,8 @@ class LabelWidget : public QLabel {
 public:
     using QLabel::QLabel;
 
-    /// `lineWidth` is that of the border in pixels.
-    void SetLook(const LabelLook& look, int lineWidth);
+    /// `lineWidth` is that of the border in pixels; of the text, `masked` pixels from the left edge are not drawn.
+    void SetLook(const LabelLook& look, int lineWidth, int masked);
     /// Other colours than those of the look. `isSnug`: the ground lies behind the text alone.
     void SetInk(const Ink& ink, bool isSnug);
     /// The part of the box that is the text's, and the text in it.
@@ -39,6 +39,7 @@ private:
     bool snug_ = false;
     bool framed_ = false;
     int border_ = 0;
+    int masked_ = 0;
 };
 
 /// The view of a label.
