@@ -36,7 +36,8 @@ ZARPI_EXPORT("area") Area* zarpi_area() {
     return &area;
 }
 
-/// Puts the game together, which nothing can make wait: kept apart from what waits, for that is made larger and slower.
+/// Makes the game. It is a function of its own, because all code that can wait for the page is compiled larger and
+/// slower, and this code never waits.
 ZARPI_EXPORT("open") Program* zarpi_open() {
     return std::make_unique<Program>().release();
 }

@@ -12,6 +12,7 @@ struct Modo {
     Integer Número;
     TextView Texto;  ///< as `lblModo`, the boards and the diploma tell it
     Menu VentanaZarpi::*Entrada;
+    Menu VentanaZarpi::*Cuadro;             ///< the menu entry of its honour board
     std::optional<Integer> TopeCastellano;  ///< none: the mode leaves the bound as it was
     std::optional<Integer> TopeInglés;
     bool fInglésCaste;
@@ -21,13 +22,20 @@ struct Modo {
     std::optional<int> IzqTapa2;
 };
 
+// clang-format off
 inline constexpr std::array<Modo, 5> Modos = {{
-    {1, u"Castellano e inglés", &VentanaZarpi::mnuCasteInglés, 16, 15, false, false, false, 510, 1980},
-    {2, u"Inglés y castellano", &VentanaZarpi::mnuIngléscaste, {}, {}, true, false, false, 1470, 540},
-    {3, u"Castellano", &VentanaZarpi::mnuCastellano, 32, 40, false, false, true, 990, {}},
-    {4, u"Inglés", &VentanaZarpi::mnuInglés, 1, 0, false, false, true, {}, 1230},
-    {5, u"Castellano o inglés", &VentanaZarpi::mnuCasteInglésAlter, {}, {}, false, true, true, 510, 1980},
+    {1, u"Castellano e inglés", &VentanaZarpi::mnuCasteInglés, &VentanaZarpi::mnuCasteInglésHonor,
+     16, 15, false, false, false, 510, 1980},
+    {2, u"Inglés y castellano", &VentanaZarpi::mnuIngléscaste, &VentanaZarpi::mnuInglésCasteHonor,
+     {}, {}, true, false, false, 1470, 540},
+    {3, u"Castellano", &VentanaZarpi::mnuCastellano, &VentanaZarpi::mnuCasteHonor,
+     32, 40, false, false, true, 990, {}},
+    {4, u"Inglés", &VentanaZarpi::mnuInglés, &VentanaZarpi::mnuInglésHonor,
+     1, 0, false, false, true, {}, 1230},
+    {5, u"Castellano o inglés", &VentanaZarpi::mnuCasteInglésAlter, &VentanaZarpi::mnuCasteoInglésHonor,
+     {}, {}, false, true, true, 510, 1980},
 }};
+// clang-format on
 
 struct TiempoPalabra {
     Integer Minutos;   ///< 60: no limit

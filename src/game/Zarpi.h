@@ -75,7 +75,7 @@ struct EstadoPalabra {
     Integer IzqZarpi = 0;
 };
 
-/// What is always written before it is read, and kept to be looked at.
+/// Values that are always set before they are read. They are fields so that tests and scripts can read them.
 struct ValoresDeTrabajo {
     Text Letra;            ///< the letter under test
     Integer NúmTecla = 0;  ///< index of its on-screen key

@@ -58,7 +58,7 @@ void ClickAt(QWidget& widget, QPoint spot) {
     }
 }
 
-/// A player clicks into a text to write on at its end.
+/// Clicks at the end of the text, where a player goes on writing.
 QPoint EndOf(const QLineEdit& edit) {
     constexpr int kBorder = 4;
     return {edit.width() - kBorder, edit.height() / 2};
@@ -115,7 +115,7 @@ QWidget* WidgetHand::WidgetOf(const Control& control) const {
     return FindWidget(display_, control);
 }
 
-/// What the window says. The screen's answer goes before it where both refuse: a window that is closing is not blocked.
+/// Whether the window takes input. Where window and screen both refuse, the answer is that of the screen.
 Refusal WidgetHand::Reach(const Form& form) const {
     const FormWindow* const window = display_.WindowOf(form);
     Refusal seen = Refusal::None;
@@ -157,7 +157,7 @@ Refusal WidgetHand::Click(Control& control) {
     return state;
 }
 
-/// The menu opens and the entry is clicked in it. What does not close a menu is left by closing it.
+/// Opens the menu and clicks the entry in it; then closes the menu, if the click has not.
 void WidgetHand::ClickEntry(Menu& entry) {
     QAction* const opener = FindAction(display_, entry.Parent == nullptr ? entry : *entry.Parent);
     auto* const bar = display_.WindowOf(entry.Owner)->findChild<QMenuBar*>();

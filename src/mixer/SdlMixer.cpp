@@ -4,7 +4,6 @@
 #include <QtGlobal>
 #include <SDL.h>
 
-
 namespace platform::desktop {
 
 namespace {

@@ -245,7 +245,7 @@ void Screen::TypeKey(const Key& key) {
     Type(box, box.Text + key.Character);
 }
 
-/// What blinks is back before anybody has seen it gone.
+/// A tick that hides elements: they are shown again before the platform draws.
 void Screen::TickStill(const Timer& timer) {
     std::vector<const Control*> hidden;
     std::ranges::copy_if(timer.Owner.Controls(), std::back_inserter(hidden),

@@ -84,7 +84,7 @@ public:
     [[nodiscard]] Refusal Reach(const Control& control) const;
     /// Where a player without a mouse is; null for nowhere.
     [[nodiscard]] const Control* Here() const { return cursor_.Here(); }
-    /// Whether a mark must tell of an element that answers a click what its blinking would have told.
+    /// Whether the element gets a mark, because it would blink and the player wishes that nothing blinks.
     [[nodiscard]] bool IsMarked(const Control& control) const;
 
     /// The part of a text that a text box takes.

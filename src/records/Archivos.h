@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -37,8 +38,11 @@ inline constexpr std::array<Par, 5> ArchivosHonor = {{
 }};
 
 /// Everything that is stored.
-inline constexpr std::array<Par, 7> Pares = {ArchivoGuardadas, ArchivoÚltimas,   ArchivosHonor[0], ArchivosHonor[1],
-                                             ArchivosHonor[2], ArchivosHonor[3], ArchivosHonor[4]};
+inline constexpr auto Pares = [] {
+    std::array<Par, 2 + ArchivosHonor.size()> pairs = {ArchivoGuardadas, ArchivoÚltimas};
+    std::copy(ArchivosHonor.begin(), ArchivosHonor.end(), pairs.begin() + 2);
+    return pairs;
+}();
 
 /// The number in the content of a counter, 0 to the limit of its pair; nothing when it does not begin with one, behind
 /// blanks: such a counter is damaged, and taken for 0 it would let the next change overwrite records. A number above

@@ -42,13 +42,13 @@ void Juego::ConectarVentana() {
 
 void Juego::ConectarMenús() {
     const auto shows = [this](Form& form) { return [this, &form] { s.Forms.ShowModal(form); }; };
-    const auto showsBoard = [this](Integer modo) {
-        return [this, modo] {
-            z.ModoHonor = modo;
+    for (const Modo& modo : Modos) {
+        (z.*modo.Entrada).Click = [this, &modo] { ElegirModo(z, modo.Número); };
+        (z.*modo.Cuadro).Click = [this, &modo] {
+            z.ModoHonor = modo.Número;
             s.Forms.ShowModal(cuadro);
         };
-    };
-    for (const Modo& modo : Modos) (z.*modo.Entrada).Click = [this, &modo] { ElegirModo(z, modo.Número); };
+    }
     for (const TiempoPalabra& tiempo : Tiempos) {
         (z.*tiempo.Entrada).Click = [this, &tiempo] { ElegirTiempo(z, tiempo.Minutos); };
     }
@@ -58,11 +58,6 @@ void Juego::ConectarMenús() {
     z.mnuÚltimas.Click = shows(últimas);
     z.mnuSonido.Click = [this] { mnuSonido_Click(z); };
     z.mnuSalir.Click = [this] { s.Forms.End(); };
-    z.mnuCasteInglésHonor.Click = showsBoard(1);
-    z.mnuInglésCasteHonor.Click = showsBoard(2);
-    z.mnuCasteHonor.Click = showsBoard(3);
-    z.mnuInglésHonor.Click = showsBoard(4);
-    z.mnuCasteoInglésHonor.Click = showsBoard(5);
     z.mnuNormas.Click = shows(normas);
     z.mnuAcerca.Click = shows(acerca);
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/Modos.h"
 #include "game/Reglas.h"
 #include "stage/Escena.h"
 
@@ -157,10 +158,8 @@ void Secuencias::Incorporarse() {
 }
 
 void Secuencias::FinPorEnfado() {
-    for (Menu* entry : {&z.mnuSonido, &z.mnuCasteInglésHonor, &z.mnuInglésCasteHonor, &z.mnuCasteHonor,
-                        &z.mnuInglésHonor, &z.mnuCasteoInglésHonor, &z.mnuÚltimas, &z.mnuNormas, &z.mnuAcerca}) {
-        entry->Enabled = false;
-    }
+    for (const Modo& modo : Modos) (z.*modo.Cuadro).Enabled = false;
+    for (Menu* entry : {&z.mnuSonido, &z.mnuÚltimas, &z.mnuNormas, &z.mnuAcerca}) entry->Enabled = false;
     z.Label5.Caption = u"La clave es " + z.PalabraMensaje + z.Traducción +
                        (z.plural ? u" ¡Vaya, Zarpi se ha enfadado y ya no podéis jugar!"
                                  : u" ¡Vaya, Zarpi se ha enfadado y ya no puedes jugar!");

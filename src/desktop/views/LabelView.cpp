@@ -36,8 +36,8 @@ bool LabelWidget::IsHighLetter() const {
     return text().size() == 1 && fontMetrics().height() > TextBox().height();
 }
 
-/// Where the first line begins. A single line on a ground of its own stands with its capitals in the middle; every
-/// other text begins at the top. A line that is higher than its box is moved until no stroke of it is cut off, but a
+/// The top of the first line. In a box with a background a single line is centred by its capitals; every other text
+/// begins at the top of its box. A line that is higher than its box is moved until no stroke of it is cut off, but a
 /// letter stays on the line of its neighbours.
 int LabelWidget::TextTop(const TextLines& lines) const {
     const QRect box = TextBox();
@@ -74,7 +74,7 @@ void LabelWidget::PaintBorder(QPainter& painter) const {
     painter.fillRect(box.left(), box.top(), line, box.height(), dark);
 }
 
-/// What lies behind the text alone; nothing behind none.
+/// The rectangle of the ground behind the text; empty where there is no text.
 QRectF LabelWidget::PlateOf(const TextLines& lines, QPointF corner) const {
     if (text().isEmpty()) return {};
     const double left = centred_ ? (TextBox().width() - lines.Size().width()) / 2 : 0;

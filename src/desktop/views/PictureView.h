@@ -30,16 +30,15 @@ public:
 
 protected:
     void Apply(const PictureLook& look) override;
-    /// Its size is rounded by itself, as that of its picture is, so that the picture fits to the pixel wherever it
-    /// moves.
+    /// Rounds width and height, not edges, so that the size never changes while the picture moves.
     [[nodiscard]] QRect Geometry(const platform::Place& place) const override;
 
 private:
     std::optional<PictureLook> loaded_;
 };
 
-/// The view of an image: the picture scaled to its box. It holds the picture only while it is seen, for backgrounds are
-/// large and one of them is shown at a time.
+/// The view of an image: the picture scaled to its box. The picture is in memory only while it is shown, because
+/// backgrounds are large and only one of six is shown.
 class ImageView : public ElementView<Image, PictureWidget> {
 public:
     ImageView(const Toolkit& toolkit, Image& element, QWidget& client);

@@ -13,8 +13,7 @@ namespace platform::desktop {
 
 /// The pictures of the elements, in the pixels of the screen. A picture "NAME.png" may have "NAME@2x.png" and
 /// "NAME@4x.png" beside it, of twice and four times its size: the smallest that has all the pixels that are asked for
-/// is taken. A picture that the player has exchanged is told from its old companions, which are then left alone. Small
-/// pictures are kept for the next time.
+/// is taken. Only the folder that holds the picture is searched for them. Small pictures are kept in memory.
 class Pictures {
 public:
     explicit Pictures(const Scale& scale);

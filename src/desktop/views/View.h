@@ -27,7 +27,7 @@ struct Toolkit {
     const platform::Wishes& Wishes;
 };
 
-/// Brings the state of one element before the player's eyes, in one widget named like the element.
+/// Shows the state of one element in one widget, which has the name of the element.
 class View {
 public:
     View(const Toolkit& toolkit, Control& element, QWidget& widget);
@@ -42,7 +42,7 @@ public:
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
     [[nodiscard]] Control& Element() const { return element_; }
-    /// Clicks the element without a mouse. The view may be gone afterwards.
+    /// Clicks the element, as the mouse does. The view may have been deleted when this returns.
     void Press() { toolkit_.Screen.Click(element_); }
 
 protected:

@@ -79,7 +79,7 @@ void PrintWidget(QWidget& widget, QPrinter& printer) {
                                    static_cast<double>(page.height()) / widget.height());
     painter.scale(factor, factor);
     painter.setClipRect(widget.rect());
-    // A picture keeps its size in inches; its own pixels are meant.
+    // QPainter draws a QPicture in inches of its own resolution; this gives one of its pixels one unit of the page.
     const double pixels = static_cast<double>(picture.logicalDpiX()) / printer.logicalDpiX();
     painter.scale(pixels, pixels);
     painter.drawPicture(0, 0, picture);
