@@ -1,25 +1,24 @@
 #!/usr/bin/env python3
 """Examines the music and the sounds that scripts/render-sound made.
 
-Every piece: its notation (equal voices, melody and bass against the chords and each other), its performance (when the melody
-enters, how far its loudness reaches, how loud the percussion is beside it), and what the game plays (length, loudness, peak,
-silence inside, a real ending, made from this very MIDI file). Every sound: format, length, loudness, peak, clean edges, and its
-sum with the loudest music. Prints one line each; the exit code is 1 if anything fails. -v tells every note off its chord.
+Every piece: its notation (notation.py), its performance (performance.py), and what the game plays (length, loudness, peak, silence
+inside, an end that dies away, made from this very MIDI file); of all twelve, that no two have the same colour. Every sound: format,
+length, loudness, peak, clean edges, and its sum with the loudest music. Prints one line each; the exit code is 1 if anything fails.
 
-Needs Python 3, abcmidi, fluidsynth, ffmpeg and the SoundFont of the package musescore-general-soundfont.
+Needs Python 3 with numpy, abcmidi, fluidsynth, ffmpeg and the SoundFont of the package musescore-general-soundfont.
 """
 import hashlib
 import subprocess
 import sys
 import tempfile
 import unicodedata
-from fractions import Fraction
 from pathlib import Path
 
 import levels
+import notation
+import performance
 import score
 from levels import db
-from score import BASS, MELODY, PERCUSSION, TICKS
 
 HERE = Path(__file__).resolve().parent
 GAME = HERE.parent / "game"
@@ -27,26 +26,18 @@ GAME = HERE.parent / "game"
 MUSIC_SECONDS = (60, 150)
 MUSIC_LUFS = -20.0
 MUSIC_PEAK = -7.5
-IN_CHORD = 0.75          # least share of the melody's strong notes that are notes of the chord
-ENTRY = 4.0              # seconds, the melody has begun by then
-SPAN = (30, 40)          # of the melody's velocities
-BESIDE = (-14.5, -5)      # LU, percussion beside the melody
+SILENCE = 2.8            # seconds inside a piece, at most: a bar
+END = -60                # dBFS, the last tenth of a second
+APART = 3.0              # dB, the colours of any two pieces
 
 SOUND_LUFS = {"Caída": -18, "Comodín": -18, "Prisa": -18, "Conseg": -16, "Diploma": -16, "Extra": -16, "Pal16": -16, "Pleno": -16,
               "Zar200": -16, "Teclado": -22}
-REWARDS = {"Conseg", "Diploma", "Extra", "Pal16", "Pleno", "Zar200"}    # the game takes the music back for them,
-DUCK = -10               # dB, by so much,
-DUCK_SECONDS = 0.05      # in so long
+DUCK = -10               # dB, by so much the game takes the music back for every sound
+DUCK_SECONDS = 0.05      # but the click of a key, in so long
 SOUND_SECONDS = {"Conseg": 8.0, "Diploma": 8.0, "Pleno": 3.5, "Pal16": 3.5}    # all others: 2.5
 RESTART = 0.1            # Prisa starts again after this many seconds
 SUM = -1.0               # dBFS, nothing that sounds together goes above
 
-# Strong places of a bar, in quarter notes.
-STRONG = {
-    "4/4": (0, 2), "3/4": (0,), "2/4": (0, 1), "6/8": (0, Fraction(3, 2)), "3/8": (0,), "5/8": (0, Fraction(1, 2), Fraction(3, 2)),
-}
-
-verbose = "-v" in sys.argv
 failed = False
 
 
@@ -56,101 +47,7 @@ def fail(name, text):
     print(f"  FAIL {name}: {text}")
 
 
-# ---- the notation ---------------------------------------------------------------------------------------------------
-
-def notated(path, work):
-    """The notes as written, on the grid."""
-    midi = work / "notation.mid"
-    subprocess.run(["abc2midi", str(path), "-o", str(midi)], capture_output=True, check=True)
-    notes = score.read_midi(midi)
-    for voice in notes.notes.values():
-        for note in voice:
-            note.start = round(note.start / 20) * 20
-    return notes
-
-
-def check_lengths(name, piece, written):
-    if piece.end % piece.bar:
-        fail(name, "the chords do not fill whole bars")
-    for channel, notes in written.notes.items():
-        if max(n.end for n in notes) > piece.end + TICKS // 4:
-            fail(name, f"channel {channel} goes on behind the chords")
-    if PERCUSSION not in written.notes:
-        fail(name, "no percussion")
-
-
-def check_harmony(name, piece, written):
-    """Strong notes are in the chord or the scale; returns the share of the melody's that are in the chord."""
-    strong = [int(b * TICKS) for b in STRONG[piece.fields["M"]]]
-    hits = total = 0
-    for channel in sorted(set(written.notes) - {PERCUSSION}):
-        for note in written.notes[channel]:
-            place = note.start % piece.bar
-            if place not in strong:
-                continue
-            chord = piece.chord_at(note.start)
-            on_chord = note.pitch % 12 in chord.notes
-            here = f"bar {note.start // piece.bar + 1} at {place / TICKS:g}: channel {channel} pitch {note.pitch} on {chord.symbol}"
-            if channel == MELODY:
-                total += 1
-                hits += on_chord
-            if on_chord:
-                continue
-            if note.pitch % 12 not in score.scale_of(piece.key_at(note.start)):
-                fail(name, here + " is neither in the chord nor in the scale")
-            elif channel == BASS and place == 0:
-                fail(name, here + ": the bass leaves the chord on the first beat")
-            elif verbose:
-                print("      off the chord:", here)
-    if hits / total < IN_CHORD:
-        fail(name, f"only {hits / total:.0%} of the melody's strong notes are of the chord")
-    return hits / total
-
-
-def check_false_relations(name, piece, written):
-    """A melody note against the same letter of the chord a semitone beside, C against the C sharp of A7, is a slip."""
-    for note in written.notes[MELODY]:
-        letters, chord = score.spelling(piece.key_at(note.start)), piece.chord_at(note.start)
-        written_on = letters.get(note.pitch % 12, letters.get((note.pitch - 1) % 12))
-        against = chord.spelled().get(written_on)
-        if against is not None and (note.pitch - against) % 12 in (1, 11):
-            fail(name, f"bar {note.start // piece.bar + 1} at {note.start % piece.bar / TICKS:g}: another {written_on} than that of {chord.symbol}")
-
-
-def check_parallels(name, piece, written):
-    """Melody and bass do not go hand in hand at the octave or the fifth."""
-    def sounding(tick):
-        return next((n.pitch for n in written.notes[MELODY] if n.start <= tick < n.end), None)
-
-    pairs = [(n.start, sounding(n.start), n.pitch) for n in written.notes[BASS]]
-    for (_, high, low), (tick, higher, lower) in zip(pairs, pairs[1:]):
-        if None in (high, higher) or (higher - high) * (lower - low) <= 0:
-            continue
-        if (high - low) % 12 == (higher - lower) % 12 and (high - low) % 12 in (0, 7):
-            fail(name, f"bar {tick // piece.bar + 1} at {tick % piece.bar / TICKS:g}: melody and bass in parallels")
-
-
-# ---- the performance ------------------------------------------------------------------------------------------------
-
-def check_performance(name, played, work):
-    """Entry of the melody in seconds, span of its velocities, percussion beside it in LU."""
-    entry = played.seconds(min(n.start for n in played.notes[MELODY]))
-    if entry > ENTRY:
-        fail(name, f"the melody enters after {entry:.2f} s")
-    velocities = [n.velocity for n in played.notes[MELODY]]
-    span = max(velocities) - min(velocities)
-    if not SPAN[0] <= span <= SPAN[1]:
-        fail(name, f"velocities of the melody span {span}")
-    heard = []
-    for channel in (PERCUSSION, MELODY):
-        score.write_midi(played, work / "voice.mid", [channel])
-        levels.synthesize(work / "voice.mid", work / "voice.wav")
-        heard.append(levels.loudness(work / "voice.wav")[0])
-    beside = heard[0] - heard[1]
-    if not BESIDE[0] <= beside <= BESIDE[1]:
-        fail(name, f"percussion {beside:.1f} LU beside the melody")
-    return entry, span, beside
-
+# ---- the music ------------------------------------------------------------------------------------------------------
 
 def check_rendered(name, work):
     """Seconds, loudness and peak of what the game plays."""
@@ -168,12 +65,12 @@ def check_rendered(name, work):
     for value in level[5:-10]:
         quiet = quiet + 1 if db(value) < -50 else 0
         longest = max(longest, quiet)
-    if longest >= 5:
+    if longest > SILENCE * 10:
         fail(name, f"{longest / 10:.1f} s of silence inside")
     if not MUSIC_SECONDS[0] <= seconds <= MUSIC_SECONDS[1]:
         fail(name, f"lasts {seconds:.1f} s")
-    if db(level[-1]) > -45:
-        fail(name, "breaks off")
+    if db(level[-1]) > END:
+        fail(name, f"breaks off at {db(level[-1]):.0f} dBFS")
     if abs(lufs - MUSIC_LUFS) > 0.5:
         fail(name, f"loudness {lufs} LUFS")
     if peak > MUSIC_PEAK:
@@ -183,25 +80,52 @@ def check_rendered(name, work):
 
 def check_music(path, work):
     """Returns the peak of the piece in dBFS."""
-    name, piece = path.stem, score.Piece(path)
-    written = notated(path, work)
-    check_lengths(name, piece, written)
-    share = check_harmony(name, piece, written)
-    check_false_relations(name, piece, written)
-    check_parallels(name, piece, written)
-    entry, span, beside = check_performance(name, score.read_midi(GAME / (name + ".mid")), work)
+    name, written = path.stem, notation.read(path, work)
+    played = score.read_midi(GAME / (name + ".mid"))
+    for fault in (*notation.faults(written), *performance.faults(written, played)):
+        fail(name, fault)
+    beside = performance.percussion_beside(played, work)
+    if not performance.BESIDE[0] <= beside <= performance.BESIDE[1]:
+        fail(name, f"percussion {beside:.1f} LU beside the melody")
     seconds, lufs, peak = check_rendered(name, work)
-    print(f"{name}  {seconds:6.1f} s  {lufs:6.1f} LUFS  peak {peak:5.1f} dB  {piece.fields['M']:>4} {piece.fields['K']:<3} of the chord"
-          f" {share:4.0%}  melody at {entry:4.2f} s, span {span}, percussion {beside:6.1f} LU  {piece.fields['T']}")
+    fields = written.piece.fields
+    print(f"{name}  {seconds:6.1f} s  {lufs:6.1f} LUFS  peak {peak:5.1f} dB  {fields['M']:>4} {fields['K']:<3} of the chord"
+          f" {notation.share_of_chord(written):4.0%}  melody at {performance.entry(played):4.2f} s,"
+          f" percussion {beside:6.1f} LU  {fields['T']}")
     return peak
+
+
+def check_colours(pieces):
+    """Each piece beside its nearest neighbour."""
+    spectra = {path.stem: levels.spectrum(GAME / (path.stem + ".ogg")) for path in pieces}
+    near = {}
+    for name, spectrum in spectra.items():
+        apart, other = min((levels.distance(spectrum, spectra[o]), o) for o in spectra if o != name)
+        near[name] = (apart, other)
+        if apart < APART:
+            fail(name, f"sounds like {other}, {apart:.1f} dB apart")
+    return near
+
+
+def tell_table(pieces, near, work):
+    """What makes each piece itself."""
+    print("piece     commonest rhythm  melody      velocities  tempo    nearest in colour")
+    for path in pieces:
+        name, written, played = path.stem, notation.read(path, work), score.read_midi(GAME / (path.stem + ".mid"))
+        share, kinds, bars = notation.variety(written)
+        pitches = [n.pitch for n in written.midi.notes[score.MELODY]]
+        low, high = performance.span(played)
+        apart, other = near[name]
+        print(f"{name}  {share:4.0%}, {kinds:2} in {bars:2}   {score.note_name(min(pitches)):>3} to {score.note_name(max(pitches)):<3}"
+              f"  {low:3} to {high:3}  {performance.tempo_spread(written.piece, played):6.1%}  {apart:4.1f} dB from {other}")
 
 
 # ---- the sounds -----------------------------------------------------------------------------------------------------
 
 def check_sum(name, samples, music_peak):
-    """The sound over the loudest music, which is still going back while a reward begins."""
+    """The sound over the loudest music, which is still going back while the sound begins."""
     loudest = 10 ** (music_peak / 20)
-    ducked = loudest * 10 ** (DUCK / 20) if name in REWARDS else loudest
+    ducked = loudest if name == "Teclado" else loudest * 10 ** (DUCK / 20)
     ramp = int(DUCK_SECONDS * 44100)
     both = max(max(map(abs, samples[:ramp])) / 32768 + loudest, max(map(abs, samples[ramp:]), default=0) / 32768 + ducked)
     if db(both) > SUM:
@@ -249,6 +173,7 @@ def main():
         if [p.stem for p in pieces] != [f"Musica{n:02}" for n in range(1, 13)]:
             fail("music", "not twelve pieces")
         music_peak = max(check_music(path, Path(work)) for path in pieces)
+        tell_table(pieces, check_colours(pieces), Path(work))
         for name in SOUND_LUFS:
             check_sound(name, music_peak)
     print("something failed" if failed else "all well")

@@ -2,6 +2,7 @@
 """How loud sounds are as the game plays them: a single channel comes out of both loudspeakers.
 
     levels.py CLICK.wav LUFS       the gain in dB that makes a click as loud as that
+    levels.py --spectra A.ogg B.ogg C.ogg     how far apart the colours of pieces are, in dB, each with each
 """
 import array
 import math
@@ -9,6 +10,8 @@ import re
 import subprocess
 import sys
 import wave
+
+import numpy
 
 SOUNDFONT = "/usr/share/sounds/sf3/MuseScore_General_Full.sf3"
 CLICK_SECONDS = 0.05     # too short for a loudness; it counts by its loudest moment of this length
@@ -45,6 +48,28 @@ def synthesize(midi, wav):
                    capture_output=True, check=True)
 
 
+THIRDS = [1000 * 2 ** (n / 3) for n in range(-12, 10)]    # of octaves, 62 Hz to 8 kHz
+FAINT = -45              # dB below the whole, what is softer colours nothing
+
+
+def spectrum(path):
+    """The colour of a piece: its level in each third of an octave, dB beside the whole."""
+    rate, size = 22050, 8192
+    raw = subprocess.run(["ffmpeg", "-loglevel", "error", "-i", str(path), "-ac", "1", "-ar", str(rate), "-f", "f32le", "-"],
+                         capture_output=True, check=True).stdout
+    samples = numpy.frombuffer(raw, dtype="<f4")
+    frames = numpy.array([samples[i:i + size] for i in range(0, len(samples) - size, size // 2)]) * numpy.hanning(size)
+    power = (numpy.abs(numpy.fft.rfft(frames, axis=1)) ** 2).mean(axis=0)
+    pitch = numpy.fft.rfftfreq(size, 1 / rate)
+    bands = [power[(pitch >= third / 2 ** (1 / 6)) & (pitch < third * 2 ** (1 / 6))].sum() for third in THIRDS]
+    return [max(FAINT, 10 * math.log10(band / sum(bands) + 1e-12)) for band in bands]
+
+
+def distance(one, other):
+    """Between two spectra, the mean difference in dB."""
+    return sum(abs(a - b) for a, b in zip(one, other)) / len(one)
+
+
 def _filter(samples, b, a):
     x1 = x2 = y1 = y2 = 0.0
     for x in samples:
@@ -76,5 +101,14 @@ def click_loudness(path):
     return -0.691 + 10 * math.log10(2 * max(b - a for a, b in zip(energy, energy[step:])) / step)
 
 
+def main():
+    if sys.argv[1] != "--spectra":
+        print(f"{float(sys.argv[2]) - click_loudness(sys.argv[1]):.2f}")
+        return
+    spectra = {path: spectrum(path) for path in sys.argv[2:]}
+    for path in spectra:
+        print(path.rsplit("/", 1)[-1].ljust(14), *(f"{distance(spectra[path], other):5.1f}" for other in spectra.values()))
+
+
 if __name__ == "__main__":
-    print(f"{float(sys.argv[2]) - click_loudness(sys.argv[1]):.2f}")
+    main()

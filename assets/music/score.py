@@ -27,6 +27,11 @@ def pitch_class(name):
     return (NATURAL[name[0].upper()] + sum(SIGN[sign] for sign in name[1:])) % 12
 
 
+def note_name(pitch):
+    """C4 for 60; black keys as sharps."""
+    return ("C", "C#", "D", "D#", "E", "F", "F#", "G", "G#", "A", "A#", "B")[pitch % 12] + str(pitch // 12 - 1)
+
+
 def scale_of(key):
     """Pitch classes of a key; a minor one has both sixths and both sevenths."""
     root, minor = re.match(r"([A-G][b#]?)(m?)$", key).groups()
@@ -54,13 +59,22 @@ class Chord:
         return {LETTERS[(root + DEGREE[(note - self.notes[0]) % 12]) % 7]: note for note in self.notes}
 
 
+@dataclass
+class Phrase:
+    start: int               # ticks
+    end: int
+    dynamics: str            # pp to ff
+
+
 class Piece:
-    """What the notation says: fields, chords and keys along the time, in ticks."""
+    """What the notation says: fields, chords and keys along the time, in ticks, and the phrases that its field N lists, dynamics and
+    bars of each: p8 mf4."""
 
     def __init__(self, path):
         self.fields = {}
         self.chords = []
         self.keys = []             # (tick, key)
+        self.changes = []          # of the tempo, ticks
         self.end = 0
         voice, tick = None, 0
         for line in path.read_text(encoding="utf-8").splitlines():
@@ -78,6 +92,10 @@ class Piece:
                 tick = self.read_chords(line, tick)
             elif voice == "M":
                 tick += self.bar * line.count("|")
+        self.phrases = []
+        for dynamics, bars in re.findall(r"([pmf]+)(\d+)", self.fields["N"]):
+            start = self.phrases[-1].end if self.phrases else 0
+            self.phrases.append(Phrase(start, start + int(bars) * self.bar, dynamics))
 
     @property
     def bar(self):
@@ -90,8 +108,10 @@ class Piece:
         return TICKS * 4 * n // d
 
     def read_chords(self, line, tick):
-        line = re.sub(r"\[[A-Z]:[^]]*\]", "", line)
-        for symbol, length in re.findall(r'"([^"]+)"\s*z(\d+)', line):
+        for change, symbol, length in re.findall(r'(\[Q:)|"([^"]+)"\s*z(\d+)', line):
+            if change:
+                self.changes.append(tick)
+                continue
             root, quality = re.match(r"([A-G][b#]?)(.*)$", symbol).groups()
             self.chords.append(Chord(tick, symbol, tuple((pitch_class(root) + s) % 12 for s in QUALITY[quality])))
             tick += int(length) * self.unit
@@ -100,6 +120,10 @@ class Piece:
 
     def chord_at(self, tick):
         return [c for c in self.chords if c.tick <= tick][-1]
+
+    def phrase_at(self, tick):
+        """The phrase around a moment; behind the end the last one."""
+        return next((p for p in self.phrases if tick < p.end), self.phrases[-1])
 
     def key_at(self, tick):
         return [key for at, key in self.keys if at <= tick][-1]
