@@ -7,9 +7,9 @@
 #include <sstream>
 
 #include "Carpeta.h"
-#include "headless/FolderFiles.h"
 #include "headless/Player.h"
 #include "shell/Juego.h"
+#include "headless/ScriptFolder.h"
 
 using namespace platform;
 using namespace platform::headless;
@@ -106,7 +106,7 @@ expect Zarpi.Caídas 4
 
 void Play(std::string_view story, Watcher& watcher) {
     const Carpeta folder;
-    FolderFiles files;
+    ScriptFolder files;
     Headless headless(files, &watcher);
     ScreenHand hand(headless.screen);
     juego::Juego juego(headless.Services());
