@@ -2,6 +2,7 @@
 
 #include "engine/Comodines.h"
 #include "game/AvisoError.h"
+#include "game/Mensaje.h"
 #include "game/Modos.h"
 #include "game/Reglas.h"
 #include "records/UltimasPartidas.h"
@@ -12,15 +13,15 @@ namespace juego {
 void Final::Caída() {
     empujador.Caer();
     ++z.Caídas;
-    z.Label5.Caption = (z.plural ? u"Habéis fallado. La palabra clave es " : u"Has fallado. La palabra clave es ") +
-                       z.PalabraMensaje + z.Traducción + u" Fin de juego.";
+    Decir(z, (z.plural ? u"Habéis fallado. La palabra clave es " : u"Has fallado. La palabra clave es ") +
+                 z.PalabraMensaje + z.Traducción + u" Fin de juego.");
     AnotarPartida();
     Terminar();
 }
 
 void Final::TiempoAgotado() {
     z.fTiempoAgotado = true;
-    z.Label5.Caption = u"¡TIEMPO! La palabra clave es " + z.PalabraMensaje + z.Traducción + u" Fin de juego.";
+    Decir(z, u"¡TIEMPO! La palabra clave es " + z.PalabraMensaje + z.Traducción + u" Fin de juego.");
     CaraTiempo(z);
     DesarmarComodín(z);
     Terminar();
@@ -31,7 +32,7 @@ void Final::PartidaGuardada() {
     Terminar();
     // Jokers alone, which leave a word to be saved, can have brought six misses.
     empujador.AnimarComodín();
-    z.Label5.Caption = u"PARTIDA GUARDADA. Fin de juego.";
+    Decir(z, u"PARTIDA GUARDADA. Fin de juego.");
     for (Label& box : z.lblComodín) box.ToolTipText.clear();
     z.picZarpi.ToolTipText.clear();
     DesarmarComodín(z);
@@ -40,8 +41,8 @@ void Final::PartidaGuardada() {
 void Final::PartidaGanada() {
     z.fVictoria = true;
     Terminar();
-    z.Label5.Caption = z.plural ? u"¡Enhorabuena, lo habéis conseguido! ¿Otra partida?"
-                                : u"¡Enhorabuena, lo has conseguido! ¿Otra partida?";
+    Decir(z, z.plural ? u"¡Enhorabuena, lo habéis conseguido! ¿Otra partida?"
+                      : u"¡Enhorabuena, lo has conseguido! ¿Otra partida?");
     for (Label& box : z.lblComodín) box.ToolTipText.clear();
     z.Caídas = 0;
     z.Bonificación = static_cast<Integer>(reglas::Bonificación(z.Fallo));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "game/Mensaje.h"
 #include "game/Modos.h"
 #include "game/Reglas.h"
 #include "game/Teclas.h"
@@ -13,14 +14,13 @@ namespace {
 
 constexpr double kTriedSize = 18;
 
-/// The letter behind a character code: A to Z and Ñ, in either case; 0 for any other.
-char16_t LetterOf(int keyAscii) {
+}  // namespace
+
+char16_t LetraDeCódigo(int keyAscii) {
     if (keyAscii < 1 || keyAscii > 0xFF) return 0;
     const char16_t upper = UpperCase(static_cast<char16_t>(keyAscii));
     return ÍndiceDeLetra(upper) != 0 ? upper : u'\0';
 }
-
-}  // namespace
 
 void CallarZarpi(Zarpi& z) {
     z.lblMenComienzo.Visible = false;
@@ -35,7 +35,7 @@ bool Letras::Admite() const {
 void Letras::Form_KeyPress(int keyAscii) {
     z.ModoHonor = z.Modo;
     if (!Admite()) return;
-    const char16_t letter = LetterOf(keyAscii);
+    const char16_t letter = LetraDeCódigo(keyAscii);
     if (letter == 0) return;
     z.Letra = Text(1, letter);
     ProbarLetra();
@@ -61,7 +61,7 @@ void Letras::ProbarLetra() {
 bool Letras::RechazarRepetida() {
     // A joker's box beyond the word has no letter; it is answered in the same way.
     const bool tried = z.Letra.empty() || std::ranges::find(z.LetrasIntentadas, z.Letra) != z.LetrasIntentadas.end();
-    if (tried) z.Label5.Caption = u"Repetida.";
+    if (tried) Decir(z, u"Repetida.");
     return tried;
 }
 
@@ -106,7 +106,7 @@ void Letras::Fallar() {
 }
 
 void Letras::Acertar() {
-    z.Label5.Caption = u"Palabra acertada: " + z.PalabraMensaje + z.Traducción;
+    Decir(z, u"Palabra acertada: " + z.PalabraMensaje + z.Traducción);
     dialogs.Beep();
     z.tmrTiempo.Stop();
     z.picZarpi.Visible = false;

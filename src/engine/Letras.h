@@ -9,6 +9,9 @@
 
 namespace juego {
 
+/// The letter behind a character code: A to Z and Ñ, in either case; 0 for any other.
+char16_t LetraDeCódigo(int keyAscii);
+
 /// How a letter reaches the word: past the locks and the test for a repeat, to the positions of the word that its level
 /// has not given away.
 class Letras {

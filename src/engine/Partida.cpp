@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "game/Comodin.h"
+#include "game/Mensaje.h"
 #include "game/Plural.h"
 #include "game/Reglas.h"
 #include "stage/Escena.h"
@@ -190,7 +191,7 @@ void Partida::AbrirPalabra(bool firstOfLevel) {
 void Partida::ComodínPalabra16() {
     if (z.fReanudar || z.NúmPalabra != reglas::PalabraComodín) return;
     DarComodín(z);
-    z.Label5.Caption = u"Has llegado a la palabra 16. Comodín extra.";
+    Decir(z, u"Has llegado a la palabra 16. Comodín extra.");
     Sonar(media, z, z.sonPal16, sonidos::Palabra16);
 }
 

@@ -1,5 +1,6 @@
 #include "engine/Reloj.h"
 
+#include "game/Mensaje.h"
 #include "sound/Sonido.h"
 
 namespace juego {
@@ -21,7 +22,7 @@ void Reloj::tmrTiempo_Timer() {
         return;
     }
     if (minutes == z.Tiempo - 1 && seconds == kWarningSecond) {
-        z.Label5.Caption = u"¡Date prisa!";
+        Decir(z, u"¡Date prisa!");
         Sonar(media, z, z.sonPrisa, sonidos::Prisa);
     }
     if (minutes == z.Tiempo) fin.TiempoAgotado();

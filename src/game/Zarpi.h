@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "game/VentanaZarpi.h"
 #include "platform/Integer.h"
@@ -75,6 +76,12 @@ struct EstadoPalabra {
     Integer IzqZarpi = 0;
 };
 
+/// A message on the main window as it is told to those who listen: with the English word in it, if there is one.
+struct Mensaje {
+    Text Texto;
+    Text PalabraInglesa;
+};
+
 /// Values that are always set before they are read. They are fields so that tests and scripts can read them.
 struct ValoresDeTrabajo {
     Text Letra;            ///< the letter under test
@@ -97,6 +104,7 @@ struct ValoresDeTrabajo {
     Text FechaPartida;  ///< of the entry in the last games
     Integer NúmPartidas = 0;
     Text TextoTiempo;
+    std::vector<Mensaje> Mensajes;  ///< what has been shown and not yet told
 };
 
 /// The game: its whole state, and the elements of its window. There is one, for as long as the program runs; every

@@ -93,9 +93,9 @@ public:
     /// The answer of the printer dialogs from here on.
     bool AcceptPrinter = true;
 
-    /// Somebody listens from here on: what is said stands in `spoken`, a text a line.
+    /// Somebody listens from here on: what is said stands in `spoken`.
     void Listen() { listening_ = true; }
-    std::vector<Text> spoken;
+    std::vector<Utterance> spoken;
 
     /// Moves the clock; timers that become due fire in their order, those due at the very end too.
     void Wait(Moment duration);
@@ -116,7 +116,7 @@ private:
     void Command(const MediaChannel& channel, MediaCommand command) override;
     void Navigate(TextView address) override { log.Add("navigate " + ToUtf8(address)); }
     [[nodiscard]] bool IsHeard() const override { return listening_; }
-    void Say(TextView text) override { spoken.emplace_back(text); }
+    void Say(const Utterance& said) override { spoken.push_back(said); }
 
     [[noreturn]] void Leave();
 

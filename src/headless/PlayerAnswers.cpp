@@ -130,9 +130,16 @@ std::string Player::ShownForms() const {
     return seen == names ? names : names + kSeen + seen;
 }
 
+/// What was said, with bars between the utterances and braces around what is English.
 std::string Player::Spoken() const {
     Text said;
-    for (const Text& text : platform_.spoken) said += (said.empty() ? u"" : u" | ") + text;
+    for (const Utterance& utterance : platform_.spoken) {
+        if (!said.empty()) said += u" |";
+        for (const Phrase& run : utterance) {
+            if (!said.empty()) said += u' ';
+            said += run.In == Language::English ? u"{en " + run.Words + u"}" : run.Words;
+        }
+    }
     platform_.spoken.clear();
     return Format(said);
 }

@@ -60,6 +60,7 @@ public:
     [[nodiscard]] Control* FirstFocus() const;
 
     const std::string Name;
+    Text SpokenTitle;  ///< what a screen reader calls the window; empty: its caption. Set once
 
     // Handlers, set once when the program is put together.
     std::function<void()> OnLoad;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/Form.h"
+#include "platform/Speech.h"
 #include "platform/Text.h"
 
 /// What the game asks of a platform, one narrow interface a subject. A class takes the ones it uses.
@@ -142,17 +143,6 @@ public:
     virtual bool Rename(std::string_view from, std::string_view to) = 0;
     /// Removes a file; that there is none of this name is no failure. False if it is still there.
     virtual bool Remove(std::string_view name) = 0;
-};
-
-/// For players who listen.
-class Speech {
-public:
-    virtual ~Speech() = default;
-
-    /// Whether anybody listens; where nobody does, nothing need be said.
-    [[nodiscard]] virtual bool IsHeard() const = 0;
-    /// Speaks a text after those before it.
-    virtual void Say(TextView text) = 0;
 };
 
 /// All services of a platform, for the place that puts the program together.

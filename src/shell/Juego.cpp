@@ -6,6 +6,7 @@
 #include "shell/Teclado.h"
 #include "stage/Escena.h"
 #include "voice/Nombres.h"
+#include "voice/Palabras.h"
 #include "windows/PaginaWeb.h"
 
 namespace juego {
@@ -28,9 +29,16 @@ void Juego::ConectarVentana() {
     z.Narrow = [this](const Room& room) { return Estrecha(z, room); };
     z.OnLoad = [this] { Form_Load(); };
     z.OnQueryUnload = [this] { s.Forms.End(); };
-    z.OnKeyPress = [this](int keyAscii) { letras.Form_KeyPress(keyAscii); };
-    z.lblTecla.OnClick([this](int index) { letras.lblTecla_Click(index); });
-    z.shpTecla.OnClick([this](int index) { letras.lblTecla_Click(index); });
+    z.OnKeyPress = [this](int keyAscii) {
+        if (LetraDeCódigo(keyAscii) != 0) AvisarComodín();
+        letras.Form_KeyPress(keyAscii);
+    };
+    const auto clickKey = [this](int index) {
+        AvisarComodín();
+        letras.lblTecla_Click(index);
+    };
+    z.lblTecla.OnClick(clickKey);
+    z.shpTecla.OnClick(clickKey);
     z.lblComodín.OnClick([this](int index) { comodines.lblComodín_Click(index); });
     z.lblLetra.OnClick([this](int index) { comodines.lblLetra_Click(index); });
     z.tmrTiempo.Click = [this] { reloj.tmrTiempo_Timer(); };
@@ -43,20 +51,29 @@ void Juego::ConectarVentana() {
 void Juego::ConectarMenús() {
     const auto shows = [this](Form& form) { return [this, &form] { s.Forms.ShowModal(form); }; };
     for (const Modo& modo : Modos) {
-        (z.*modo.Entrada).Click = [this, &modo] { ElegirModo(z, modo.Número); };
+        (z.*modo.Entrada).Click = [this, &modo] {
+            ElegirModo(z, modo.Número);
+            voz.Avisar(u"Modo: " + z.lblModo.Caption + u".");
+        };
         (z.*modo.Cuadro).Click = [this, &modo] {
             z.ModoHonor = modo.Número;
             s.Forms.ShowModal(cuadro);
         };
     }
     for (const TiempoPalabra& tiempo : Tiempos) {
-        (z.*tiempo.Entrada).Click = [this, &tiempo] { ElegirTiempo(z, tiempo.Minutos); };
+        (z.*tiempo.Entrada).Click = [this, &tiempo] {
+            ElegirTiempo(z, tiempo.Minutos);
+            voz.Avisar(z.lblMensajeTiem.Caption + u".");
+        };
     }
     z.mnuNuevo.Click = [this] { partida.mnuNuevo_Click(); };
     z.mnuReanudar.Click = shows(reanudar);
     z.mnuGuardar.Click = shows(guardar);
     z.mnuÚltimas.Click = shows(últimas);
-    z.mnuSonido.Click = [this] { mnuSonido_Click(z); };
+    z.mnuSonido.Click = [this] {
+        mnuSonido_Click(z);
+        voz.Avisar(z.mnuSonido.Checked ? u"Con sonido." : u"Sin sonido.");
+    };
     z.mnuSalir.Click = [this] { s.Forms.End(); };
     z.mnuNormas.Click = shows(normas);
     z.mnuAcerca.Click = shows(acerca);
@@ -77,7 +94,8 @@ void Juego::ConectarVoz() {
 bool Juego::TeclaDeAyuda(const Key& key) {
     constexpr int kBoxes = 10;
     if (key.Code == KeyF7) {
-        if (z.lblComodín(1).Visible) comodines.lblComodín_Click(1);
+        if (z.comodines > 0) comodines.lblComodín_Click(1);
+        if (z.comodines == 0 || z.fFinPartida) voz.Avisar(z.fFinPartida ? u"No hay partida." : u"Sin comodines.");
         elegirCasilla = z.fComodín;
         return true;
     }
@@ -92,10 +110,9 @@ bool Juego::TeclaDeAyuda(const Key& key) {
     return true;
 }
 
-/// The word is completed: its message is told to those who listen before the next word takes its place.
-void Juego::TerminarPalabra() {
-    voz.Retener();
-    partida.SiguientePalabra();
+/// A letter is refused while a joker is armed: those who listen are told.
+void Juego::AvisarComodín() {
+    if (z.fComodín && z.VecesAngustia == 0) voz.Avisar(voz::Comodines(z));
 }
 
 /// What follows the victory screen: the prize, then the board of the mode played.

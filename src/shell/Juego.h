@@ -49,7 +49,7 @@ private:
     void ConectarMenús();
     void ConectarVoz();
     bool TeclaDeAyuda(const Key& key);
-    void TerminarPalabra();
+    void AvisarComodín();
     void Premiar();
 
     Services s;
@@ -74,7 +74,7 @@ private:
 
     Final fin{z, s.Forms, s.Files, s.Clock, empujador, secuencias, victoria};
     Partida partida{z, s.Forms, s.Media, s.Clock, sorteo, música, comentario, fin, {nivel, tanteo, nombre}};
-    Letras letras{z, s.Dialogs, empujador, secuencias, fin, [this] { TerminarPalabra(); }};
+    Letras letras{z, s.Dialogs, empujador, secuencias, fin, [this] { partida.SiguientePalabra(); }};
     Comodines comodines{z, s.Media, letras};
     Reloj reloj{z, s.Forms, s.Media, s.Clock, fin};
 

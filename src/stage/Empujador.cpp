@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/Mensaje.h"
 #include "game/Reglas.h"
 #include "sound/Sonido.h"
 #include "stage/Escena.h"
@@ -64,7 +65,7 @@ void Empujador::Caer() {
 
 void Empujador::AnimarComodín() {
     if (z.Fallo != reglas::FallosBorde || z.comodines == 0) return;
-    z.Label5.Caption = z.plural ? u"¡Usad un comodín!" : u"¡Usa un comodín!";
+    Decir(z, z.plural ? u"¡Usad un comodín!" : u"¡Usa un comodín!");
     Sonar(media, z, z.sonComodín, sonidos::Comodín);
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "game/Mensaje.h"
 #include "game/Modos.h"
 #include "game/Reglas.h"
 #include "stage/Escena.h"
@@ -160,9 +161,9 @@ void Secuencias::Incorporarse() {
 void Secuencias::FinPorEnfado() {
     for (const Modo& modo : Modos) (z.*modo.Cuadro).Enabled = false;
     for (Menu* entry : {&z.mnuSonido, &z.mnuÚltimas, &z.mnuNormas, &z.mnuAcerca}) entry->Enabled = false;
-    z.Label5.Caption = u"La clave es " + z.PalabraMensaje + z.Traducción +
-                       (z.plural ? u" ¡Vaya, Zarpi se ha enfadado y ya no podéis jugar!"
-                                 : u" ¡Vaya, Zarpi se ha enfadado y ya no puedes jugar!");
+    Decir(z, u"La clave es " + z.PalabraMensaje + z.Traducción +
+                 (z.plural ? u" ¡Vaya, Zarpi se ha enfadado y ya no podéis jugar!"
+                           : u" ¡Vaya, Zarpi se ha enfadado y ya no puedes jugar!"));
 }
 
 }  // namespace juego

@@ -23,9 +23,7 @@ constexpr auto kContents = std::to_array<Contenido>({
     {"frmGuardar", u"Escribe una contraseña, y repítela en la casilla siguiente.", {}},
     {"frmReanudar", u"", {"Label1", "Label2", "Label17", "Label9", "Label3", "Label11", "Label13", "Label15"}},
     {"frmFecha", u"", {"Label1", "Label3"}},
-    {"frmDiploma",
-     u"Diploma de Zarpi. La flecha izquierda abre las cortinas.",
-     {"Text1", "Text2", "Text3", "Text4", "Text5"}},
+    {"frmDiploma", u"Diploma de Zarpi.", {"Text1", "Text2", "Text3", "Text4", "Text5"}},
     {"frmCuadro", u"", {"Label2"}},
 });
 
@@ -56,14 +54,14 @@ constexpr auto kLists = std::to_array<Lista>({
 });
 constexpr int kRows = 10;
 
-/// The rules and About are read as they stand, heading before paragraph; then comes what nobody has to see.
+/// The rules and About are read as they stand, heading before paragraph, behind what is for players who listen.
 struct Lectura {
     std::string_view Form;
-    TextView Añadido;
+    TextView Antes;
 };
 constexpr auto kReadWhole = std::to_array<Lectura>({
     {"frmNormas",
-     u"Sin ratón ni pantalla: F7 prepara el comodín, y una cifra elige la casilla; el cero, la décima. F8 dice cómo va "
+     u"Teclas: F7 prepara el comodín, y una cifra elige la casilla; el cero, la décima. F8 dice cómo va "
      u"la partida. El tabulador y las flechas recorren la ventana, y la barra espaciadora pulsa."},
     {"frmAcerca", u""},
 });
@@ -93,7 +91,13 @@ Text Fila(const Form& form, const Lista& list, int row) {
     return Decimal(row) + u": " + said + u".";
 }
 
-Text Entera(const Form& form) {
+using Líneas = std::vector<Text>;
+
+void Poner(Líneas& lines, Text line) {
+    if (!line.empty()) lines.push_back(std::move(line));
+}
+
+Líneas Entera(const Form& form) {
     std::vector<const Control*> labels;
     for (const Control* control : form.Controls()) {
         if (control->kind == Kind::Label) labels.push_back(control);
@@ -106,35 +110,55 @@ Text Entera(const Form& form) {
         return std::tuple(acrossAll ? -1 : c->Left / kColumn, c->Top, c->Left, c->Width);
     };
     std::ranges::sort(labels, {}, place);
-    Text said;
-    for (const Control* label : labels) voz::Añadir(said, Frase(SpokenNameOf(*label)));
-    return said;
+    Líneas lines;
+    for (const Control* label : labels) Poner(lines, Frase(SpokenNameOf(*label)));
+    return lines;
+}
+
+/// "3 partidas guardadas, elegida la 2."
+Text Elegida(const ListBox& list) {
+    const int games = std::max(0, static_cast<int>(list.List.size()) - 1);  // behind the heading
+    if (games == 0) return u"No hay partidas guardadas.";
+    return voz::Contar(games, u"partida guardada", u"partidas guardadas") +
+           (list.ListIndex > 0 ? u", elegida la " + Decimal(list.ListIndex) : Text()) + u".";
+}
+
+/// How far the curtains of the diploma are, in steps that are worth being told.
+Text Cortinas(const Form& diploma) {
+    constexpr int kClosed = 5400;
+    constexpr int kStep = 10;
+    if (!diploma.KeyPreview) return u"Cortinas abiertas.";
+    const int open = 100 * (kClosed - diploma.Find("Picture2")->Width) / kClosed;
+    if (open < kStep) return u"Cortinas cerradas; la flecha izquierda las abre.";
+    return u"Cortinas abiertas al " + Decimal(open / kStep * kStep) + u" por ciento.";
 }
 
 }  // namespace
 
-Text ContenidoDe(const Form& form) {
-    Text said;
+Líneas ContenidoDe(const Form& form) {
+    Líneas lines;
     const auto whole = std::ranges::find(kReadWhole, form.Name, &Lectura::Form);
     if (whole != kReadWhole.end()) {
-        said = Entera(form);
-        voz::Añadir(said, Text(whole->Añadido));
+        lines = Entera(form);
+        if (!whole->Antes.empty()) lines.insert(lines.begin(), Text(whole->Antes));
     }
+    if (form.Name == "frmReanudar") lines.push_back(Elegida(static_cast<const ListBox&>(*form.Find("lstLista"))));
     for (const Contenido& content : kContents) {
         if (content.Form != form.Name) continue;
-        said = content.Texto;
+        Poner(lines, Text(content.Texto));
         for (const std::string_view name : content.Elementos) {
             const Control* const element = name.empty() ? nullptr : form.Find(name);
-            if (element != nullptr && element->Visible) voz::Añadir(said, Frase(Nombre(*element)));
+            if (element != nullptr && element->Visible) Poner(lines, Frase(Nombre(*element)));
         }
     }
+    if (form.Name == "frmDiploma") lines.push_back(Cortinas(form));
     for (const Lista& list : kLists) {
         if (list.Form != form.Name) continue;
-        Text rows;
-        for (int row = 1; row <= kRows; ++row) voz::Añadir(rows, Fila(form, list, row));
-        voz::Añadir(said, rows.empty() ? Text(u"No hay ninguna partida.") : rows);
+        const std::size_t before = lines.size();
+        for (int row = 1; row <= kRows; ++row) Poner(lines, Fila(form, list, row));
+        if (lines.size() == before) lines.push_back(u"No hay ninguna partida.");
     }
-    return said;
+    return lines;
 }
 
 }  // namespace juego

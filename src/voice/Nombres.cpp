@@ -70,6 +70,7 @@ Text Comodín(const Zarpi& z, int index) {
 }  // namespace
 
 void NombrarVentana(Zarpi& z) {
+    z.SpokenTitle = u"Juego de Zarpi";
     for (Label& box : z.lblLetra) box.SpokenName = [&z, i = box.Index] { return voz::Casilla(z, i); };
     for (Label& key : z.lblTecla) key.SpokenName = [&key] { return Tecla(key); };
     for (Label& box : z.lblComodín) box.SpokenName = [&z, i = box.Index] { return Comodín(z, i); };
@@ -77,7 +78,7 @@ void NombrarVentana(Zarpi& z) {
     // What stands in several boxes and titles on the screen is said in one place.
     Callar({&z.Label2, &z.Label6, &z.lblNivel, &z.Label3, &z.Label7, &z.Label8, &z.Label10, &z.lblMensajeTiem,
             &z.lblTapa1, &z.lblTapa2, &z.lblTeclado});
-    z.lblPalabra.SpokenName = [&z] { return z.lblPalabra.Caption.empty() ? Text() : voz::Palabra(z); };
+    z.lblPalabra.SpokenName = [&z] { return z.lblPalabra.Caption.empty() ? Text() : voz::Palabra(z) + u"."; };
     z.Label4.SpokenName = [&z] { return voz::Fallos(z); };
     z.lblPuntos.SpokenName = [&z] { return u"Zarpis: " + z.lblPuntos.Caption; };
     z.lblPlenos.SpokenName = [&z] { return u"Plenos: " + z.lblPlenos.Caption; };
@@ -103,6 +104,14 @@ void NombrarDiálogo(Form& form) {
         auto& box = static_cast<Label&>(*form.Find(value.Valor));
         box.SpokenName = [&title, &box] { return ConTítulo(title, box); };
         Callar({&title});
+    }
+    for (const std::string_view name : {"Picture2", "Picture3"}) {
+        if (form.Name != "frmDiploma") break;
+        // An open curtain has nothing more to do.
+        const bool isLeft = name == "Picture2";
+        form.Find(name)->SpokenName = [&form, isLeft] {
+            return !form.KeyPreview ? Text() : isLeft ? u"Cortina izquierda" : u"Cortina derecha";
+        };
     }
     for (Control* control : form.Controls()) {
         if (control->Name != "picPubli1") continue;

@@ -1,5 +1,6 @@
 #include "voice/Voz.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "game/Reglas.h"
@@ -10,6 +11,8 @@ namespace juego {
 
 namespace {
 
+constexpr TextView kKeys = u"F7, comodín; F8, cómo va.";
+
 /// The line of the hero that is seen now.
 Text Comentario(const Zarpi& z) {
     for (const Label* line : {&z.lblComentCaída, &z.lblComentAngus, &z.lblComentario}) {
@@ -18,76 +21,103 @@ Text Comentario(const Zarpi& z) {
     return {};
 }
 
+Text Fallo(const Zarpi& z) {
+    const int left = reglas::FallosCaída - z.Fallo;
+    return u"Mal: " + z.Letra + u". " + (left == 1 ? u"Queda " : u"Quedan ") + voz::Contar(left, u"fallo.", u"fallos.");
+}
+
 }  // namespace
 
 Voz::Dicho Voz::Ahora() const {
-    const Form* const front = forms.Front();
-    return {.Mensaje = z.Label5.Caption,
-            .Comentario = Comentario(z),
-            .Tablero = voz::Tablero(z),
+    return {.Comentario = Comentario(z),
+            .Letras = voz::Letras(z),
             .Palabra = static_cast<Integer>(z.fFinPartida ? 0 : z.NúmPalabra),
             .Fallos = z.Fallo,
             .Intentadas = z.NúmIntentadas,
             .Comodín = z.fComodín,
             .Error = z.lblMensajeError.Visible,
-            .Ventana = front,
-            .Contenido = front == nullptr ? Text() : ContenidoDe(*front),
             .Indicación = z.lblMenComienzo.Visible ? z.lblMenComienzo.Caption : Text()};
 }
 
-/// The outcome of a letter or of what else has changed the message; a miss names the letter and what is left.
-Text Voz::Resultado(const Dicho& now) const {
-    const bool sameWord = now.Palabra == dicho.Palabra;
-    const bool tried = sameWord && now.Intentadas != dicho.Intentadas;
-    if (!tried && now.Mensaje == dicho.Mensaje) return {};
-    const bool miss = sameWord && now.Fallos > dicho.Fallos && !z.fFinPartida;
-    if (!miss) return now.Mensaje;
-    const int left = reglas::FallosCaída - now.Fallos;
-    Text said =
-        u"Mal: " + z.Letra + u". " + (left == 1 ? u"Queda " : u"Quedan ") + voz::Contar(left, u"fallo.", u"fallos.");
-    if (now.Mensaje != u"Mal.") voz::Añadir(said, now.Mensaje);
-    return said;
+/// A word is being set up, whose windows are still to come.
+bool Voz::EnPreparación() const {
+    return !z.fFinPartida && !z.tmrTiempo.IsEnabled();
 }
 
-Text Voz::Novedades(const Dicho& now) const {
-    const bool sameWord = now.Palabra == dicho.Palabra;
-    Text said;
+/// Whether the window in front has come up since the last time.
+bool Voz::Abrir(const Form& front) {
+    const auto known = std::ranges::find(ventanas, &front, &Ventana::Forma);
+    const bool isNew = known == ventanas.end();
+    if (isNew) {
+        ventanas.push_back({&front, {}});
+    } else {
+        ventanas.erase(known + 1, ventanas.end());
+    }
+    return isNew;
+}
+
+/// The outcome of a letter, and the messages: a hit names the new letter, a miss the letter and what is left.
+void Voz::DecirResultado(Utterance& said, const Dicho& now) {
     if (now.Error && !dicho.Error) voz::Añadir(said, z.lblMensajeError.Caption);
-    voz::Añadir(said, retenido);
-    if (now.Mensaje != retenido) voz::Añadir(said, Resultado(now));
-    if (now.Comodín != dicho.Comodín && now.Comodín) voz::Añadir(said, voz::Comodines(z));
-    if (!now.Comodín && dicho.Comodín && now.Tablero == dicho.Tablero && now.Fallos == dicho.Fallos) {
+    dicho.Error = now.Error;
+    voz::Añadir(said, std::exchange(aviso, Text()));
+    const bool isTried = now.Palabra == dicho.Palabra && now.Intentadas != dicho.Intentadas && !z.fFinPartida;
+    const bool isHit = isTried && now.Fallos == dicho.Fallos;
+    if (isHit) voz::Añadir(said, u"Bien. " + voz::LetraNueva(z, dicho.Letras));
+    if (isTried && !isHit) voz::Añadir(said, Fallo(z));
+    for (const Mensaje& message : std::exchange(z.Mensajes, {})) voz::Añadir(said, message);
+}
+
+/// The lines of a window that has come up, then those that have changed. A heading begins anew.
+void Voz::DecirVentana(Utterance& said, const Form& front) {
+    std::vector<Text> lines = ContenidoDe(front);
+    const std::vector<Text>& before = ventanas.back().Líneas;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (before.size() == lines.size() && before[i] == lines[i]) continue;
+        if (lines[i].ends_with(u':') && !said.empty()) speech.Say(std::exchange(said, {}));
+        voz::Añadir(said, lines[i]);
+    }
+    ventanas.back().Líneas = std::move(lines);
+}
+
+/// What stands on the main window apart from the outcome.
+void Voz::DecirPartida(Utterance& said, const Dicho& now) {
+    const bool sameWord = now.Palabra == dicho.Palabra;
+    if (now.Comodín && !dicho.Comodín) voz::Añadir(said, voz::Comodines(z));
+    if (!now.Comodín && dicho.Comodín && now.Intentadas == dicho.Intentadas && !z.fFinPartida) {
         voz::Añadir(said, u"Comodín guardado.");
     }
-    if (sameWord && now.Tablero != dicho.Tablero && !z.fFinPartida) voz::Añadir(said, now.Tablero + u".");
-    if (now.Contenido != dicho.Contenido || now.Ventana != dicho.Ventana) voz::Añadir(said, now.Contenido);
-    if (now.Indicación != dicho.Indicación) voz::Añadir(said, now.Indicación);
-    if (!sameWord && now.Palabra != 0) {
-        voz::Añadir(said, voz::Palabra(z) + u" " + voz::Contar(z.LargoPalabra, u"letra", u"letras") + u": " +
-                              now.Tablero + u".");
-    }
+    if (sameWord && now.Letras != dicho.Letras && !z.fFinPartida) voz::Añadir(said, voz::Tablero(z) + u".");
+    if (!sameWord && now.Palabra != 0) voz::Añadir(said, voz::Palabra(z) + u", " + voz::TableroEntero(z));
     if (now.Comentario != dicho.Comentario) voz::Añadir(said, voz::LíneaDeZarpi(z, now.Comentario));
-    return said;
+    if (now.Indicación != dicho.Indicación) voz::Añadir(said, now.Indicación);
+    if (now.Palabra != 0 && !std::exchange(teclasDichas, true)) voz::Añadir(said, kKeys);
 }
 
 void Voz::Asentar() {
-    if (!speech.IsHeard()) return;
-    Dicho now = Ahora();
-    // A word that is being set up behind its screens is told when it is in play.
-    if (now.Palabra != 0 && now.Palabra != dicho.Palabra && !z.tmrTiempo.IsEnabled()) {
-        now.Palabra = dicho.Palabra;
-        now.Tablero = dicho.Tablero;
-        now.Fallos = dicho.Fallos;
-        now.Intentadas = dicho.Intentadas;
+    const Form* const front = forms.Front();
+    if (!speech.IsHeard() || front == nullptr) {
+        z.Mensajes.clear();
+        return;
     }
-    const Text said = Novedades(now);
-    dicho = std::move(now);
-    retenido.clear();
+    const bool isNew = Abrir(*front);
+    const bool isMain = front == &z && !EnPreparación();
+    const Dicho now = Ahora();
+    Utterance said;
+    if (isMain || isNew) DecirResultado(said, now);
+    DecirVentana(said, *front);
+    if (isMain) {
+        DecirPartida(said, now);
+        dicho = now;
+    }
     if (!said.empty()) speech.Say(said);
 }
 
 void Voz::RepetirEstado() {
-    if (speech.IsHeard()) speech.Say(voz::Estado(z));
+    if (!speech.IsHeard()) return;
+    Utterance said;
+    voz::Añadir(said, voz::Estado(z));
+    speech.Say(said);
 }
 
 }  // namespace juego

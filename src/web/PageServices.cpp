@@ -81,8 +81,13 @@ void PageMedia::TellMix() {
                       .Done());
 }
 
-void PageSpeech::Say(TextView text) {
-    display_.Tell(Json("say").Text("text", text).Done());
+void PageSpeech::Say(const Utterance& said) {
+    std::string runs;
+    for (const Phrase& run : said) {
+        runs += runs.empty() ? "[" : ",[";
+        runs += Quoted(ToUtf8(run.Words)) + (run.In == Language::English ? ",\"en\"]" : ",\"es\"]");
+    }
+    display_.Tell(Json("say").Raw("runs", "[" + runs + "]").Done());
 }
 
 void PageBrowser::Navigate(TextView address) {

@@ -63,7 +63,7 @@ public:
     explicit PageSpeech(PageDisplay& display) : display_(display) {}
 
     [[nodiscard]] bool IsHeard() const override { return true; }
-    void Say(TextView text) override;
+    void Say(const Utterance& said) override;
 
 private:
     PageDisplay& display_;

@@ -129,6 +129,7 @@ std::string StateOf(const Form& form, const Frame& frame) {
     return Json("form")
         .Text("form", form.Name)
         .Text("caption", frame.look.Caption)
+        .Text("spoken", form.SpokenTitle.empty() ? frame.look.Caption : form.SpokenTitle)
         .Number("width", frame.width)
         .Number("height", frame.height)
         .Flag("narrow", frame.isNarrow)

@@ -1,6 +1,7 @@
 #include "windows/frmPuntos.h"
 
 #include "game/Comodin.h"
+#include "game/Mensaje.h"
 #include "sound/Sonido.h"
 
 namespace juego {
@@ -75,9 +76,9 @@ void frmPuntos::Puntuar() {
 void frmPuntos::AnunciarPleno() {
     const bool first = z.plenos == 1;
     if (z.plural) {
-        z.Label5.Caption = first ? u"¡Bien, habéis conseguido un pleno!" : u"¡Bien, habéis conseguido otro pleno!";
+        Decir(z, first ? u"¡Bien, habéis conseguido un pleno!" : u"¡Bien, habéis conseguido otro pleno!");
     } else {
-        z.Label5.Caption = first ? u"¡Bien, has conseguido un pleno!" : u"¡Bien, has conseguido otro pleno!";
+        Decir(z, first ? u"¡Bien, has conseguido un pleno!" : u"¡Bien, has conseguido otro pleno!");
     }
     Sonar(media, z, sonPleno, sonidos::Pleno);
 }
@@ -91,18 +92,18 @@ void frmPuntos::ComodínPlenos() {
     if (z.NúmPalabra == reglas::PalabraComodín || Pasa200()) return;
     const bool first = z.plenos == reglas::PlenosPorComodín;
     if (z.plural) {
-        z.Label5.Caption = first ? u"¡Estupendo, habéis conseguido un comodín extra!"
-                                 : u"¡Estupendo, habéis conseguido otro comodín extra!";
+        Decir(z, first ? u"¡Estupendo, habéis conseguido un comodín extra!"
+                       : u"¡Estupendo, habéis conseguido otro comodín extra!");
     } else {
-        z.Label5.Caption =
-            first ? u"¡Estupendo, has conseguido un comodín extra!" : u"¡Estupendo, has conseguido otro comodín extra!";
+        Decir(z, first ? u"¡Estupendo, has conseguido un comodín extra!"
+                       : u"¡Estupendo, has conseguido otro comodín extra!");
     }
     Sonar(media, z, sonExtra, sonidos::Extra);
     fExtraAnunciado = true;
 }
 
 void frmPuntos::Comodín200() {
-    z.Label5.Caption = u"Has superado los 200 zarpis. Comodín extra.";
+    Decir(z, u"Has superado los 200 zarpis. Comodín extra.");
     DarComodín(z);
     Sonar(media, z, sonZarpi200, sonidos::Zarpi200);
 }

@@ -13,23 +13,23 @@
 namespace platform::desktop {
 namespace {
 
-TEST(Announcer, SpeaksTheTextsOfATurnAsOneAndAfterTheTitleOfAWindow) {
+TEST(Announcer, SpeaksWhenTheWindowHasTheKeyboardAndSpellsAForeignWord) {
     Rig rig;
     Sample form;
-    rig.screen.Show(form);
     Announcer announcer([&rig] { return rig.display.FrontWindow(); });
-    announcer.Say(u"nadie");
+    announcer.Say({{u"nadie"}});
     EXPECT_FALSE(announcer.IsHeard());
     QStringList spoken;
-    announcer.OnSpoken = [&spoken](const QString& text) { spoken << text; };
-    announcer.Say(u"uno");
-    announcer.Say(u"dos");
-    QTest::qWait(50);
+    announcer.OnSpoken = [&](const QString& text) {
+        spoken << (rig.display.FrontWindow()->isActiveWindow() ? text : "early");
+    };
+    rig.screen.Show(form);
+    announcer.Say({{u"uno"}});
+    announcer.Say({{u"Es"}, {u"FOUR.", Language::English}, {u"Cuatro."}});
+    announcer.Say({{u"Come on, friend!", Language::English}});
     EXPECT_TRUE(spoken.isEmpty());
-    QTest::qWait(150);
-    announcer.Say(u"tres");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(spoken, QStringList({"uno dos", "tres"}));
+    EXPECT_TRUE(QTest::qWaitFor([&spoken] { return spoken.size() == 3; }));
+    EXPECT_EQ(spoken, QStringList({"uno", "Es FOUR: F, O, U, R. Cuatro.", "Come on, friend!"}));
 }
 
 /// A form whose letter, hero and button answer clicks, in rows: letter and hero; text box and list; button.

@@ -17,6 +17,17 @@ const FormWindow& WindowOf(const QWidget& widget) {
     return static_cast<const FormWindow&>(*widget.window());
 }
 
+/// A window under its spoken title. Of a dialog a reader would say all texts itself, in an order of its own, and then
+/// hear them from the game; of this role it says the title alone.
+class WindowAccess : public QAccessibleWidget {
+public:
+    explicit WindowAccess(QWidget& window) : QAccessibleWidget(&window, QAccessible::Window) {}
+
+    [[nodiscard]] QString text(QAccessible::Text text) const override {
+        return text == QAccessible::Name ? ToQt(WindowOf(*widget()).SpokenTitle()) : QAccessibleWidget::text(text);
+    }
+};
+
 /// The client area, with the elements that are seen and have a name. Of a pane a reader says that it is one, and all
 /// its texts, whenever it gets the focus; of this role it says nothing.
 class ClientAccess : public QAccessibleWidget {
@@ -88,8 +99,7 @@ private:
 QAccessibleInterface* MakeAccess(const QString& /*className*/, QObject* object) {
     auto* const widget = dynamic_cast<QWidget*>(object);
     if (widget == nullptr || dynamic_cast<const FormWindow*>(widget->window()) == nullptr) return nullptr;
-    // Of a dialog a reader would say all texts itself, in an order of its own, and then hear them from the game.
-    if (widget->isWindow()) return new QAccessibleWidget(widget, QAccessible::Window);
+    if (widget->isWindow()) return new WindowAccess(*widget);
     if (auto* const client = dynamic_cast<Client*>(widget)) return new ClientAccess(*client);
     View* const view = WindowOf(*widget).Elements().Of(widget);
     if (view == nullptr) return nullptr;

@@ -1,9 +1,10 @@
 #include "desktop/access/Announcer.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QWidget>
-#include <algorithm>
+#include <QWindow>
 #include <utility>
 
 #include "desktop/values/Strings.h"
@@ -56,6 +57,7 @@ private:
 Announcer::Announcer(std::function<QWidget*()> front) : front_(std::move(front)) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Speak(); });
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &timer_, [this] { Await(); });
 }
 
 Announcer::~Announcer() {
@@ -74,21 +76,31 @@ bool Announcer::IsHeard() const {
     return QAccessible::isActive() || OnSpoken;
 }
 
-void Announcer::Say(TextView text) {
-    constexpr int kAfterTitle = 150;  // milliseconds
+void Announcer::Say(const Utterance& said) {
     if (!IsHeard()) return;
-    if (!waiting_.isEmpty()) waiting_ += ' ';
-    waiting_ += ToQt(text);
+    waiting_ << ToQt(InOneLanguage(said));
+    Await();
+}
+
+/// The title of a window is told to the reader when the window gets the keyboard.
+void Announcer::Await() {
+    constexpr int kPatience = 2000;  // milliseconds, for a window that stays behind those of another program
+    if (waiting_.isEmpty()) return;
     const QWidget* const front = front_();
-    const bool isNew = std::exchange(window_, front) != front;
-    timer_.start(isNew ? kAfterTitle : std::max(0, timer_.remainingTime()));
+    const bool isThere = front == nullptr || front->isActiveWindow();
+    timer_.start(isThere ? 0 : kPatience);
 }
 
 void Announcer::Speak() {
-    const QString text = std::exchange(waiting_, QString());
-    if (OnSpoken) OnSpoken(text);
-    QWidget* const window = front_();
-    if (QAccessible::isActive() && window != nullptr) Notify(window, text);
+#ifdef Q_OS_WIN
+    // A later notification takes the place of an earlier one.
+    waiting_ = QStringList(waiting_.join(' '));
+#endif
+    for (const QString& text : std::exchange(waiting_, {})) {
+        if (OnSpoken) OnSpoken(text);
+        QWidget* const window = front_();
+        if (QAccessible::isActive() && window != nullptr) Notify(window, text);
+    }
 }
 
 void Announcer::Notify(QWidget* window, const QString& text) {

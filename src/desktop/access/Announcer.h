@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <array>
 #include <functional>
@@ -14,8 +14,8 @@ namespace platform::desktop {
 
 class Notice;
 
-/// Speaks through the screen reader that runs, wherever the focus is. What is said in one turn of the event loop is
-/// spoken as one text, and after the title of a window that has just come to the front.
+/// Speaks through the screen reader that runs, wherever the focus is. What is said while a window comes to the front is
+/// spoken when the window has the keyboard, behind its title.
 class Announcer : public Speech {
 public:
     /// `front` gives the window in front, null for none.
@@ -23,23 +23,23 @@ public:
     ~Announcer() override;
 
     [[nodiscard]] bool IsHeard() const override;
-    void Say(TextView text) override;
+    void Say(const Utterance& said) override;
 
     /// Where it is set, somebody listens: it gets what is spoken.
     std::function<void(const QString&)> OnSpoken;
 
 private:
+    void Await();
     void Speak();
     void Notify(QWidget* window, const QString& text);
     void Clear();
 
     const std::function<QWidget*()> front_;
     QTimer timer_;
-    QString waiting_;
-    const QWidget* window_ = nullptr;  // the one last spoken in; only compared
+    QStringList waiting_;
     std::unique_ptr<Notice> bar_;
     // A text is heard only if none follows it at once on the same object.
-    std::array<std::unique_ptr<Notice>, 8> ring_;
+    std::array<std::unique_ptr<Notice>, 16> ring_;
     std::size_t next_ = 0;
 };
 

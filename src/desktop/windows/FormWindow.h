@@ -37,6 +37,10 @@ public:
     /// window, `first`.
     void ShowAnew(const FormWindow& first);
 
+    /// What a screen reader calls the window.
+    [[nodiscard]] const Text& SpokenTitle() const {
+        return form_.SpokenTitle.empty() ? form_.Caption : form_.SpokenTitle;
+    }
     [[nodiscard]] Client& ClientArea() const { return client_; }
     [[nodiscard]] const Board& Elements() const { return board_; }
     [[nodiscard]] const CursorView& Here() const { return cursor_; }
