@@ -97,7 +97,7 @@ class Page {
     ring: ({ form, name }) => {
       for (const window of this.#windows.values()) window.showRing(window.name === form ? name : null);
     },
-    say: ({ text }) => this.#voice.say(text),
+    say: ({ runs }) => this.#voice.say(runs),
     beep: () => this.sound.beep(),
     mix: (table) => this.sound.mix(table),
     play: ({ channel, file, overMusic }) => this.sound.play(channel, file, overMusic),
@@ -123,7 +123,7 @@ class Page {
     this.#moveVoice();
     window?.close();
     if (this.front) {
-      document.title = this.front.node.getAttribute("aria-label");
+      document.title = this.front.caption;
       this.front.takeFocus();
     }
   }

@@ -4,7 +4,7 @@
 import { make } from "./dom.js";
 
 const KNOWN_AFTER = 200; // milliseconds until a reader knows a region in its new place
-const LINES = 6;
+const LINES = 12;
 
 export class Voice {
   #region = document.getElementById("spoken");
@@ -20,15 +20,18 @@ export class Voice {
     this.#timer = setTimeout(() => this.#tell(), KNOWN_AFTER);
   }
 
-  /** Each text is a line of its own, so that the same one is heard again. */
-  say(text) {
-    this.#waiting.push(text);
+  /** Phrases of words and their language. Each text is a line of its own, so that the same one is heard again. */
+  say(runs) {
+    this.#waiting.push(runs);
     if (this.#timer === 0) this.#tell();
   }
 
   #tell() {
     this.#timer = 0;
-    for (const text of this.#waiting.splice(0)) make("p", this.#region, { textContent: text });
+    for (const runs of this.#waiting.splice(0)) {
+      const line = make("p", this.#region);
+      for (const [words, lang] of runs) make("span", line, { textContent: `${words} `, lang });
+    }
     while (this.#region.children.length > LINES) this.#region.firstChild.remove();
   }
 }

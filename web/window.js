@@ -64,7 +64,8 @@ export class Window {
     this.#form = form;
     if (!this.menus && !this.title) this.#makeTitle();
     this.#showFoot();
-    this.node.setAttribute("aria-label", form.caption);
+    this.caption = form.caption;
+    this.node.setAttribute("aria-label", form.spoken);
     if (this.title) this.title.textContent = form.caption;
     this.client.style.backgroundColor = form.back ?? "";
     this.resize();
