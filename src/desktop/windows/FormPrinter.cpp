@@ -23,6 +23,14 @@ QString DocumentsFolder() {
     return QFile::exists(documents) ? documents : QDir::homePath();
 }
 
+/// A file for a page of this name that is not there yet: a second copy does not take the place of the first.
+QString NewFile(const QString& name) {
+    const QString start = DocumentsFolder() + '/' + name;
+    QString file = start + ".pdf";
+    for (int copy = 2; QFile::exists(file); ++copy) file = QString("%1 (%2).pdf").arg(start).arg(copy);
+    return file;
+}
+
 /// By the system's dialog; where that knows nothing but printers, and there is none, by asking for a file.
 bool Choose(QPrinter& printer, QWidget* owner) {
 #ifdef Q_OS_WIN
@@ -65,7 +73,7 @@ void ProposePage(const FormWindow& window, QPrinter& printer) {
     printer.setPageOrientation(page.width() > page.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setDocName(window.windowTitle());
     if (!QPrinterInfo::availablePrinterNames().isEmpty()) return;
-    printer.setOutputFileName(DocumentsFolder() + '/' + printer.docName() + ".pdf");
+    printer.setOutputFileName(NewFile(printer.docName()));
 }
 
 void PrintWidget(QWidget& widget, QPrinter& printer) {
