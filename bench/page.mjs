@@ -120,7 +120,7 @@ async function keys(player) {
 /** What the page does in a while in which nothing moves. */
 async function idle(player) {
   const session = await player.page.createCDPSession();
-  await session.send("Performance.enable");
+  await session.send("Performance.enable", { timeDomain: "threadTicks" });
   const read = async () => Object.fromEntries((await session.send("Performance.getMetrics")).metrics.map(({ name, value }) => [name, value]));
   await pause(3000);
   const before = await read();
@@ -146,7 +146,7 @@ const player = await Player.enter(browser, server.address, { prepare: fixed(2) }
 console.log("idle at the presentation:", await idle(player));
 await player.startGame("Ana");
 console.log("idle in a word in play:", await idle(player));
-if (!/^00:0[1-9]|^00:1/.test(await player.see("Zarpi.lblTiempo").then((text) => text.slice(3)))) throw new Error("no word is in play");
+if ((await player.see("Zarpi.lblTiempo")) === null) throw new Error("no word is in play");
 const spans = await keys(player);
 const told = spans.map(({ work, drawing, frame }) => [work, drawing, frame].map((span) => span.toFixed(1)).join("/"));
 console.log("keys, milliseconds of work/of drawing/to the frame:", told.join(" "));

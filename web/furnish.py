@@ -59,7 +59,7 @@ def furnish_pictures(assets: Path, site: Path):
     folder.mkdir()
     for size in ICON_SIZES:
         shutil.copy(assets / f"icons/hicolor/{size}x{size}/apps/zarpi.png", folder / f"icon{size}.png")
-    for path in sorted(assets.glob("icons/web/*.png")):
+    for path in sorted(assets.glob("icons/web/*")):
         shutil.copy(path, folder)
     pictures = {}
     for name, path in picture_sources(assets):

@@ -72,6 +72,7 @@ class Page {
   }
 
   #show(message) {
+    if (message.every((object) => object.do === "wake")) return;
     for (const object of message) this.#deeds[object.do]?.(object);
     for (const window of this.#windows.values()) window.levelTexts();
     if (isNobody(document.activeElement) && !document.querySelector("dialog.message")) this.front?.takeFocus();

@@ -151,7 +151,8 @@ export class Window {
    */
   resize() {
     if (!this.#isOpen) return;
-    const room = { width: innerWidth, height: innerHeight - barHeight() - this.foot.offsetHeight };
+    const below = getComputedStyle(this.foot).position === "fixed" ? 0 : this.foot.offsetHeight;
+    const room = { width: innerWidth, height: innerHeight - barHeight() - below };
     this.node.classList.toggle("narrow", this.#form.narrow);
     this.#twip = this.#twipFor(room);
     this.node.style.setProperty("--twip", `${this.#twip}px`);

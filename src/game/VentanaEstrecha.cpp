@@ -60,7 +60,7 @@ constexpr std::array kInStrip = {
     Move{.Names = "lblMensajeTiem lblTiempo Label8 lblNombre", .From = {9630, 120}, .To = {60, 130}, .Scale = 1.1},
     Move{.Names = "lblComodín(1)", .From = {9270, 3420}, .To = {2870, 220}, .Scale = 2, .Width = 1260, .Height = 1610},
     Move{.Names = "Shape1", .From = {9150, 3300}, .To = {2750, 110}, .Width = 1500, .Height = 1830},
-    Move{.Names = "lblComodín", .From = {9270, 3420}, .To = {3950, 330}, .Scale = 0.85, .Across = 1.15},
+    Move{.Names = "lblComodín", .From = {9270, 3420}, .To = {4330, 330}, .Scale = 0.85, .Across = 0.98},
     Move{.Names = "shpMosOcul cmdMostrar cmdOcultar", .From = {10230, 7470}, .To = {6520, 1050}, .Scale = 1.5},
 };
 

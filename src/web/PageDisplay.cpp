@@ -185,10 +185,12 @@ void PageDisplay::TellChanges(const Form& form, Window& window) {
 void PageDisplay::TellElements(const Form& form, Window& window, const Order* order) {
     for (const Control* control : form.Controls()) {
         if (!IsSeen(*control)) continue;
+        const auto [told, isNew] = window.elements.try_emplace(control);
+        // Most are hidden, and stay so.
+        if (!isNew && !control->Visible && !told->second.stand.Visible) continue;
         Stand stand = AsDesigned(*control);
         if (order != nullptr && control->Visible) stand = order->StandOf(*control);
         Seen seen = SeenOf(*control, stand, wishes_, screen_->IsMarked(*control));
-        const auto [told, isNew] = window.elements.try_emplace(control);
         if (!isNew && told->second == seen) continue;
         Tell(StateOf(*control, seen));
         told->second = std::move(seen);
