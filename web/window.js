@@ -9,7 +9,6 @@ import { twips } from "./text.js";
 const DESIGN_TWIP = 1 / 15; // pixels
 const FINGER_TWIP = 44 / 405; // with which a text box is as large as a finger
 const READABLE = 9; // pixels, the size of letters
-const MUCH = 300; // characters
 const FINGERS = "(hover: none) and (pointer: coarse)";
 
 /** The height of a menu bar or a title, in pixels. */
@@ -182,7 +181,7 @@ export class Window {
     const fit = Math.min((room.width - 4) / form.width, (room.height - 4) / form.height);
     const common = Math.min(innerWidth / 11910, (innerHeight - 30) / 8520);
     const least = matchMedia("(pointer: coarse)").matches ? FINGER_TWIP : DESIGN_TWIP;
-    return Math.max(Math.min(fit, Math.max(common, least)), this.#readableTwip(fit));
+    return Math.max(Math.min(fit, Math.max(common, least)), this.#readableTwip(room, fit));
   }
 
   #layOut() {
@@ -194,12 +193,12 @@ export class Window {
     this.levelTexts();
   }
 
-  /** What has much to read is made as large as reading takes, and scrolls; 0 where there is nothing of the kind. */
-  #readableTwip(fit) {
+  /** A dialog whose letters would be too small is as large as reading takes and the width allows, and scrolls. */
+  #readableTwip(room, fit) {
     const told = [...this.#elements.values()].map((element) => element.told);
-    const small = told.filter(({ kind, visible, size }) => kind === "Label" && visible && size * fit < READABLE);
-    const length = small.reduce((sum, { caption }) => sum + caption.length, 0);
-    return this.modal && length > MUCH ? READABLE / Math.min(...small.map(({ size }) => size)) : 0;
+    const sizes = told.filter(({ kind, visible }) => kind === "Label" && visible).map(({ size }) => size);
+    const wanted = READABLE / Math.min(...sizes);
+    return this.modal && wanted > fit ? Math.min(wanted, (room.width - 4) / this.#form.width) : 0;
   }
 
   #place(element) {
