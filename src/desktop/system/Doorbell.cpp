@@ -40,6 +40,7 @@ bool Doorbell::Ring(std::chrono::milliseconds patience) {
     AllowSetForegroundWindow(ASFW_ANY);
 #endif
     storage::FolderFiles files;
+    files.Remove(kBell);  // not written through, if it is a link
     if (!files.Replace(kBell, qgetenv(kToken).toStdString())) return false;
     const QDeadlineTimer end(patience);
     while (files.Exists(kBell) && !end.hasExpired()) QThread::msleep(kPause);
