@@ -95,6 +95,17 @@ def check_music(path, work):
     return peak
 
 
+def check_instruments(pieces, work):
+    """Each piece has an instrument that no other has."""
+    used = {}
+    for path in pieces:
+        midi = notation.read(path, work).midi
+        used[path.stem] = {program for channel in midi.notes if channel != score.PERCUSSION for _, program in midi.programs[channel]}
+    for name, programs in used.items():
+        if not programs - set().union(*(others for other, others in used.items() if other != name)):
+            fail(name, "has no instrument of its own")
+
+
 def check_colours(pieces):
     """Each piece beside its nearest neighbour."""
     spectra = {path.stem: levels.spectrum(GAME / (path.stem + ".ogg")) for path in pieces}
@@ -173,6 +184,7 @@ def main():
         if [p.stem for p in pieces] != [f"Musica{n:02}" for n in range(1, 13)]:
             fail("music", "not twelve pieces")
         music_peak = max(check_music(path, Path(work)) for path in pieces)
+        check_instruments(pieces, Path(work))
         tell_table(pieces, check_colours(pieces), Path(work))
         for name in SOUND_LUFS:
             check_sound(name, music_peak)

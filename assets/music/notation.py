@@ -22,14 +22,43 @@ STRONG = {
     "4/4": (0, 2), "3/4": (0,), "2/4": (0, 1), "6/8": (0, Fraction(3, 2)), "3/8": (0,), "5/8": (0, Fraction(1, 2), Fraction(3, 2)),
 }
 
-# Lowest and highest note that an instrument plays, by program.
+# Lowest and highest note of an instrument, by its program.
 RANGES = {
-    6: (29, 89), 8: (60, 108), 9: (79, 108), 10: (60, 103), 11: (53, 89), 12: (36, 96), 13: (65, 108), 15: (36, 88), 19: (36, 96),
-    20: (36, 91), 21: (48, 93), 24: (40, 83), 25: (40, 93), 32: (28, 67), 40: (55, 100), 41: (48, 88), 42: (36, 76), 43: (28, 67),
-    45: (28, 91), 46: (23, 103), 48: (28, 100), 56: (52, 82), 57: (40, 72), 58: (28, 65), 60: (34, 77), 68: (58, 91), 69: (52, 81),
-    70: (34, 72), 71: (50, 91), 72: (74, 108), 73: (60, 96), 74: (60, 98), 75: (55, 91), 79: (69, 93), 105: (48, 84), 107: (43, 91),
-    108: (60, 93), 22: (48, 96), 109: (46, 81), 110: (55, 100), 114: (52, 88), 104: (43, 84), 26: (40, 86), 27: (40, 86), 33: (28, 67),
-    7: (29, 89), 0: (21, 108), 4: (28, 103), 14: (48, 84), 47: (36, 57), 49: (28, 100), 52: (43, 84), 78: (67, 96),
+    0: (21, 108),     # piano
+    4: (28, 103),     # electric piano
+    6: (29, 89),      # harpsichord
+    8: (60, 108),     # celesta
+    9: (79, 108),     # glockenspiel
+    10: (60, 103),    # music box
+    11: (53, 89),     # vibraphone
+    12: (36, 96),     # marimba
+    15: (36, 88),     # struck strings
+    19: (36, 96),     # organ
+    21: (48, 93),     # accordion
+    22: (48, 96),     # mouth organ
+    24: (40, 83),     # guitar
+    25: (40, 93),     # plucked steel strings, from the lute to the bandurria
+    32: (28, 67),     # double bass, plucked
+    33: (28, 67),     # electric bass
+    40: (55, 100),    # violin
+    42: (36, 76),     # cello, viol
+    43: (28, 67),     # double bass, bowed
+    45: (28, 91),     # plucked strings
+    46: (23, 103),    # harp
+    47: (36, 57),     # kettledrums
+    48: (28, 100),    # strings
+    56: (52, 82),     # trumpet
+    58: (28, 65),     # tuba
+    60: (34, 77),     # horn
+    68: (58, 91),     # oboe
+    69: (52, 81),     # English horn
+    70: (34, 72),     # bassoon
+    71: (50, 91),     # clarinet
+    72: (74, 108),    # piccolo
+    73: (60, 96),     # flute
+    74: (60, 98),     # recorder
+    75: (55, 91),     # pan flute
+    78: (67, 96),     # whistle
 }
 
 
@@ -187,7 +216,7 @@ def ranges(written):
     for channel in written.voices:
         for note in written.midi.notes[channel]:
             program = written.midi.program_at(channel, note.start)
-            low, high = RANGES[program]
+            low, high = RANGES.get(program, (0, 0))
             if not low <= note.pitch <= high:
                 yield f"{written.where(note.start)}: {NAMES[channel]} {score.note_name(note.pitch)} is beyond program {program}"
 
