@@ -34,6 +34,9 @@ class Fader {
 
 /** An effect: all of it is in memory. */
 class Effect {
+  #source;
+  #fader;
+
   constructor(context, buffer, output, onEnd) {
     this.#source = context.createBufferSource();
     this.#source.buffer = buffer;
@@ -42,8 +45,6 @@ class Effect {
     this.#source.onended = onEnd;
     this.#source.start();
   }
-  #source;
-  #fader;
 
   fade({ silence, stop }) {
     this.#source.stop(this.#fader.goTo(silence, stop));
