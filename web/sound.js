@@ -57,10 +57,12 @@ class Effect {
 
 /** A piece of music: the browser fetches and decodes it as it goes on. */
 class Piece {
+  #context;
   #audio;
   #fader;
 
   constructor(context, file, output) {
+    this.#context = context;
     this.#audio = new Audio(file);
     this.#fader = new Fader(context);
     context.createMediaElementSource(this.#audio).connect(this.#fader.node).connect(output);
@@ -72,9 +74,14 @@ class Piece {
     if (this.#audio.paused && !this.#audio.ended) this.#audio.play().catch(() => {});
   }
 
+  /** The page's clock and that of the sound are two: it is the latter's that tells when the piece has faded. */
   fade({ silence, stop }) {
-    this.#fader.goTo(silence, stop);
-    setTimeout(() => this.cut(), stop);
+    const end = this.#fader.goTo(silence, stop);
+    const cutWhenFaded = () => {
+      if (this.#context.state === "running" && this.#context.currentTime < end) setTimeout(cutWhenFaded, stop);
+      else this.cut();
+    };
+    setTimeout(cutWhenFaded, stop);
   }
 
   /** Without its address it lets go of what it has fetched. */
