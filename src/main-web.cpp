@@ -1,7 +1,9 @@
 // zarpi.wasm: the game in a page of a browser.
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <string>
 
 #include "records/Archivos.h"
 #include "shell/Juego.h"
@@ -11,6 +13,7 @@
 namespace {
 
 constexpr std::size_t kArea = 65536;
+constexpr std::size_t kCounter = 64;  // bytes, many more than a counter has
 
 /// The memory that holds the program while it waits, behind its begin and its end.
 struct Area {
@@ -50,6 +53,32 @@ ZARPI_EXPORT("run") void zarpi_run(Program* program) {
     browser.OnUnsaved([&juego] { juego.AvisarError(); });
     juego.Start();
     browser.Run();
+}
+
+/// The pairs of stored files, a line each: the name of the counter, that of the records, and how long each can be, in bytes.
+ZARPI_EXPORT("pairs") const char* zarpi_pairs() {
+    static const std::string pairs = [] {
+        std::string text;
+        for (const juego::Par& par : juego::Pares) {
+            // A list that is full keeps the row that has fallen off.
+            const std::size_t longest = (static_cast<std::size_t>(par.Límite) + 1) * par.Largo;
+            text.append(par.Contador).append(" ").append(par.Registros);
+            text.append(" ").append(std::to_string(kCounter)).append(" ").append(std::to_string(longest)).append("\n");
+        }
+        return text;
+    }();
+    return pairs.c_str();
+}
+
+/// The place for the content of a counter that `fit` is asked about.
+ZARPI_EXPORT("counter") char* zarpi_counter() {
+    static std::array<char, kCounter> counter;
+    return counter.data();
+}
+
+/// Whether the files of a pair, by its number from 0, fit each other: a counter of `length` bytes and `records` bytes of records.
+ZARPI_EXPORT("fit") bool zarpi_fit(std::size_t pair, std::size_t length, std::size_t records) {
+    return juego::Encajan({zarpi_counter(), std::min(length, kCounter)}, records, juego::Pares.at(pair));
 }
 }
 

@@ -54,31 +54,57 @@ export function pack(files) {
   return new Blob([...parts, ...directory, end], { type: "application/zip" });
 }
 
-async function inflated(bytes) {
-  const stream = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("deflate-raw"));
-  return new Uint8Array(await new Response(stream).arrayBuffer());
+/** What the bytes are inflated; throws as soon as that is longer than `most`. */
+async function inflated(bytes, most) {
+  const reader = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("deflate-raw")).getReader();
+  const parts = [];
+  let length = 0;
+  for (let { done, value } = await reader.read(); !done; { done, value } = await reader.read()) {
+    length += value.length;
+    if (length > most) {
+      await reader.cancel();
+      throw new Error("too long");
+    }
+    parts.push(value);
+  }
+  return new Uint8Array(await new Blob(parts).arrayBuffer());
 }
 
-/** The files of an archive, folders left out of their names. Throws for what is no archive. */
-export async function unpack(buffer) {
+function directoryOf(view) {
+  let end = view.byteLength - 22;
+  const first = Math.max(0, end - 0xffff); // behind it stands a comment at most
+  while (end >= first && view.getUint32(end, true) !== END) --end;
+  if (end < first) throw new Error("no archive");
+  return { at: view.getUint32(end + 16, true), count: view.getUint16(end + 10, true) };
+}
+
+async function content(view, at, most) {
+  const method = view.getUint16(at + 10, true);
+  const local = view.getUint32(at + 42, true);
+  const start = local + 30 + view.getUint16(local + 26, true) + view.getUint16(local + 28, true);
+  const bytes = new Uint8Array(view.buffer, start, view.getUint32(at + 20, true));
+  if (view.getUint32(at + 24, true) > most || (method === STORED && bytes.length > most)) throw new Error("too long");
+  if (method !== STORED && method !== DEFLATED) throw new Error("unknown method");
+  const found = method === DEFLATED ? await inflated(bytes, most) : bytes.slice();
+  if (crc32(found) !== view.getUint32(at + 16, true)) throw new Error("damaged");
+  return found;
+}
+
+/**
+ * The files of an archive, folders left out of their names: of each its name and its bytes, null for what is longer than
+ * `most(name)` or cannot be read. Nothing is inflated any further than that; undefined for a name is none at all, and null.
+ * Throws for what is no archive.
+ */
+export async function unpack(buffer, most) {
   const view = new DataView(buffer);
-  const files = new Map();
-  let end = buffer.byteLength - 22;
-  while (end >= 0 && view.getUint32(end, true) !== END) --end;
-  if (end < 0) throw new Error("no archive");
-  let at = view.getUint32(end + 16, true);
-  for (let left = view.getUint16(end + 10, true); left > 0; --left) {
+  const files = [];
+  let { at, count } = directoryOf(view);
+  for (; count > 0; --count) {
     if (view.getUint32(at, true) !== CENTRAL) throw new Error("no archive");
     const [nameLength, extra, comment] = [28, 30, 32].map((offset) => view.getUint16(at + offset, true));
-    const name = new TextDecoder().decode(new Uint8Array(buffer, at + 46, nameLength)).split("/").pop();
-    const local = view.getUint32(at + 42, true);
-    const start = local + 30 + view.getUint16(local + 26, true) + view.getUint16(local + 28, true);
-    const bytes = new Uint8Array(buffer, start, view.getUint32(at + 20, true)).slice();
-    const method = view.getUint16(at + 10, true);
-    if (method !== STORED && method !== DEFLATED) throw new Error("unknown method");
-    const content = method === DEFLATED ? await inflated(bytes) : bytes;
-    if (crc32(content) !== view.getUint32(at + 16, true)) throw new Error("damaged");
-    if (name !== "") files.set(name, content);
+    const name = new TextDecoder().decode(new Uint8Array(buffer, at + 46, nameLength)).split(/[\\/]/).pop();
+    const limit = most(name);
+    if (name !== "") files.push([name, limit === undefined ? null : await content(view, at, limit).catch(() => null)]);
     at += 46 + nameLength + extra + comment;
   }
   return files;

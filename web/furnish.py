@@ -1,17 +1,23 @@
 #!/usr/bin/env python3
-"""Puts the files of the page into one folder, pictures, sounds and fonts made small for the way through the network.
+"""Puts the files of the page into one folder, made small for the way through the network.
 
-    furnish.py ASSETS PAGE PROGRAM SITE
+    furnish.py assets ASSETS STAGE
+    furnish.py page STAGE PAGE PROGRAM SITE
 
-ASSETS is the folder of the game's pictures and sounds, PAGE that of the page's own files, PROGRAM the program. Writes
-SITE/assets.json, which tells the page what there is, and the list of files into SITE/worker.js.
+The first makes STAGE of ASSETS, the folder of the game's pictures and sounds. The second makes SITE of it, of PAGE, the
+folder of the page's own files, and of PROGRAM. All but index.html, worker.js and manifest.json goes into a folder of SITE
+whose name is the checksum of what is in it, so that files of two versions never meet.
 """
 
+import base64
+import gzip
 import hashlib
 import json
+import re
 import shutil
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 from fontTools import subset
@@ -32,6 +38,7 @@ QUALITY = {1: 82, 2: 82, 4: 75}
 ICON_SIZES = (32, 256)
 MUSIC = "music"  # the folder of what is streamed
 SOUND_QUALITY = "3"  # of Vorbis, about 64 kbit/s for one channel
+CONTENTS = "contents.json"  # of the stage: what pictures and sounds there are
 
 
 def picture_sources(assets: Path):
@@ -112,30 +119,88 @@ def write_stars(path: Path):
     subset.save_font(font, str(path), options)
 
 
-def write_worker(page: Path, site: Path):
-    """The worker keeps all files but the music and the largest pictures, which it keeps when they have been asked for."""
-    files = sorted(path for path in site.rglob("*") if path.is_file())
+def checksum(data: bytes):
+    return base64.b64encode(hashlib.sha256(data).digest()).decode()
+
+
+def esbuild(*arguments):
+    return subprocess.run(["esbuild", "--minify", "--charset=utf8", *map(str, arguments)], check=True, capture_output=True).stdout
+
+
+def furnish_program(program: Path, folder: Path):
+    """The program packed, so that it comes small from servers that do not pack; plain for browsers that cannot unpack."""
+    plain = program.read_bytes()
+    packed = gzip.compress(plain, 9, mtime=0)
+    (folder / "zarpi.bin").write_bytes(packed)
+    (folder / "zarpi.wasm").write_bytes(plain)
+    return {"packed": {"file": "zarpi.bin", "size": len(packed)}, "plain": {"file": "zarpi.wasm", "size": len(plain)}}
+
+
+def furnish_scripts(page: Path, folder: Path, contents: dict):
+    """All modules in one file, and in it what there is in the folder; the style."""
+    style = esbuild(page / "style.css")
+    (folder / "style.css").write_bytes(style)
+    contents["style"] = {"file": "style.css", "integrity": f"sha256-{checksum(style)}"}
+    with tempfile.TemporaryDirectory() as work:
+        for module in page.glob("*.js"):
+            shutil.copy(module, work)
+        (Path(work) / "assets.json").write_text(json.dumps(contents, ensure_ascii=False))
+        (folder / "main.js").write_bytes(esbuild("--bundle", "--format=esm", "--target=es2022", Path(work) / "main.js"))
+
+
+def name_of(folder: Path):
+    """The checksum of all files of a folder and their names."""
     digest = hashlib.sha256()
-    for path in files:
-        digest.update(path.read_bytes())
-    kept = [path for path in files if path.parent.name != MUSIC and not path.stem.endswith(f"@{SIZES[-1]}x")]
-    names = ["./"] + [path.relative_to(site).as_posix() for path in kept]
-    head = f'const VERSION = "{digest.hexdigest()[:16]}";\nconst FILES = {json.dumps(names, ensure_ascii=False)};\n\n'
-    (site / "worker.js").write_text(head + (page / "worker.js").read_text())
+    for path in sorted(folder.rglob("*")):
+        if path.is_file():
+            digest.update(f"{path.relative_to(folder)} {hashlib.sha256(path.read_bytes()).hexdigest()}\n".encode())
+    return digest.hexdigest()[:16]
 
 
-def main():
-    assets, page, program, site = map(Path, sys.argv[1:])
+def write_index(page: Path, folder: Path, site: Path):
+    named = {name: esbuild("--format=iife", "--target=es2018", page / f"{name}.js") for name in ("whole", "watch")}
+    named["look"] = esbuild(page / "look.css")
+    named = {name: text.strip() for name, text in named.items()}
+    values = {"folder": folder.name} | {name: text.decode() for name, text in named.items()}
+    named |= {"main": (folder / "main.js").read_bytes(), "style": (folder / "style.css").read_bytes()}
+    values |= {f"{name}-hash": f"sha256-{checksum(text)}" for name, text in named.items()}
+    for name in ("index.html", "manifest.json"):
+        (site / name).write_text(re.sub(r"{{([\w-]+)}}", lambda found: values[found[1]], (page / name).read_text()))
+
+
+def write_worker(page: Path, folder: Path, site: Path):
+    """The worker keeps all files but the music and the largest pictures, which it keeps when they have been asked for."""
+    kept, later = {}, {}
+    for path in sorted(folder.rglob("*")):
+        name = path.relative_to(folder).as_posix()
+        is_large = path.stem.endswith(f"@{SIZES[-1]}x") or path.stem.startswith("screen-")
+        is_later = path.parent.name == MUSIC or is_large or name == "zarpi.wasm"
+        if path.is_file():
+            (later if is_later else kept)[name] = checksum(path.read_bytes())
+    lists = [f"const {name} = {json.dumps(value, ensure_ascii=False)};" for name, value in
+             (("VERSION", folder.name), ("FILES", kept), ("LATER", later))]
+    (site / "worker.js").write_text("\n".join(lists) + "\n\n" + (page / "worker.js").read_text())
+
+
+def furnish_assets(assets: Path, stage: Path):
+    shutil.rmtree(stage, ignore_errors=True)
+    stage.mkdir(parents=True)
+    contents = {"pictures": furnish_pictures(assets, stage), "sounds": furnish_sounds(assets, stage)}
+    furnish_fonts(stage)
+    (stage / CONTENTS).write_text(json.dumps(contents, ensure_ascii=False))
+
+
+def furnish_page(stage: Path, page: Path, program: Path, site: Path):
     shutil.rmtree(site, ignore_errors=True)
-    site.mkdir(parents=True)
-    for path in sorted(page.iterdir()):
-        if path.suffix in (".html", ".css", ".js", ".json") and path.name != "worker.js":
-            shutil.copy(path, site)
-    shutil.copy(program, site / "zarpi.wasm")
-    contents = {"pictures": furnish_pictures(assets, site), "sounds": furnish_sounds(assets, site)}
-    (site / "assets.json").write_text(json.dumps(contents, ensure_ascii=False))
-    furnish_fonts(site)
-    write_worker(page, site)
+    folder = Path(shutil.copytree(stage, site / "version"))
+    contents = json.loads((folder / CONTENTS).read_text())
+    (folder / CONTENTS).unlink()
+    contents["program"] = furnish_program(program, folder)
+    furnish_scripts(page, folder, contents)
+    folder = folder.rename(site / name_of(folder))
+    write_index(page, folder, site)
+    write_worker(page, folder, site)
 
 
-main()
+deed, *paths = sys.argv[1:]
+{"assets": furnish_assets, "page": furnish_page}[deed](*map(Path, paths))

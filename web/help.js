@@ -24,6 +24,17 @@ const KEYS = [
   ["Ctrl+P", "imprime la ventana que está delante"],
 ];
 
+/** Says that there is another version, as soon as that is known. */
+async function versionPart(other) {
+  const part = make("section");
+  if (!(await other)) return part;
+  make("h2", part, { textContent: "Hay una versión nueva" });
+  make("p", part, { textContent: "Estará aquí la próxima vez que empieces. Si empiezas ahora con ella, se pierde la partida que no esté guardada." });
+  const row = make("div", part, { className: "files" });
+  make("button", row, { type: "button", textContent: "Empezar con ella" }).addEventListener("click", () => location.reload());
+  return part;
+}
+
 function linesPart(byFingers) {
   const list = make("ol", null, { className: "lines" });
   for (const [picture, text] of LINES) {
@@ -47,11 +58,15 @@ function keysPart() {
   return part;
 }
 
-/** Shows the help until the player closes it; `byFingers`: where there is no keyboard. */
-export async function showHelp(storage, byFingers) {
+/**
+ * Shows the help until the player closes it. `other` comes to be whether there is another version of the page; `byFingers`: where
+ * there is no keyboard.
+ */
+export async function showHelp({ storage, program, other, byFingers }) {
   const content = make("div");
+  versionPart(other).then((part) => content.prepend(part));
   content.append(linesPart(byFingers));
   if (!byFingers) content.append(keysPart());
-  content.append(filesPart(storage));
+  content.append(filesPart(storage, program));
   await ask("Ayuda", content, ["Cerrar"]);
 }

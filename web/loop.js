@@ -9,18 +9,22 @@ export class Loop {
   #program;
   #storage;
   #show;
+  #end;
+  #fail;
   #message = [];
   #queue = [];
   #storing = false;
-  #ended = false;
+  #ended = false; // by itself
+  #stopped = false;
   #timer = 0;
   #unsaved = false; // something could not be stored yet
 
-  /** `show` takes the list of objects that the program tells after an event; `end` is called when it has ended. */
-  constructor(storage, show, end) {
+  /** `show` takes the list of objects that the program tells after an event; `end` is called when it has ended, `fail` when it has broken down. */
+  constructor(storage, { show, end, fail }) {
     this.#storage = storage;
     this.#show = show;
-    this.end = end;
+    this.#end = end;
+    this.#fail = fail;
   }
 
   /** The program's way to the page, for Program.load. */
@@ -37,27 +41,48 @@ export class Loop {
   /** Runs the program to its first wait. What it shows then tells nothing of what it wrote, and does not wait for it. */
   start(program) {
     this.#program = program;
-    this.#ended = !program.start();
+    this.#ended = !this.#run(() => program.start());
+    if (this.#stopped) return;
     this.#showMessage();
     if (this.#storage.hasNews) this.#store();
   }
 
   /** Whether an event is taken at once; otherwise it waits until what was written is stored. */
   get isReady() {
-    return !this.#storing && !this.#ended;
+    return !this.#storing && !this.#ended && !this.#stopped;
   }
 
   /** Gives an event to the program. True if the program leaves a key to the element that has the focus. */
   send(...event) {
-    if (this.#ended) return false;
+    if (this.#ended || this.#stopped) return false;
     if (this.#storing) {
       this.#queue.push(event);
       return false;
     }
-    const goesOn = this.#program.send(event);
+    const goesOn = this.#run(() => this.#program.send(event));
+    if (this.#stopped) return false;
     const leaves = this.#message.some((object) => object.do === "leaveKey");
     this.#settle(goesOn, event[0]);
     return leaves;
+  }
+
+  /** Nothing more happens; `then` is called. */
+  stop(then) {
+    if (this.#ended || this.#stopped) return;
+    this.#stopped = true;
+    clearTimeout(this.#timer);
+    then();
+  }
+
+  /** What the program has written before it broke down is half of something, and is not stored. */
+  #run(program) {
+    try {
+      return program();
+    } catch (error) {
+      console.error(error);
+      this.stop(this.#fail);
+      return false;
+    }
   }
 
   #settle(goesOn, event) {
@@ -72,6 +97,7 @@ export class Loop {
     this.#storing = true;
     const stored = await this.#storage.commit();
     this.#storing = false;
+    if (this.#stopped) return;
     if (this.#message.length > 0) this.#showMessage();
     const isNew = !stored && !this.#unsaved;
     this.#unsaved = !stored;
@@ -85,7 +111,7 @@ export class Loop {
     clearTimeout(this.#timer);
     this.#show(message);
     if (this.#ended) {
-      this.end();
+      this.#end();
       return;
     }
     const wake = message.findLast((object) => object.do === "wake");

@@ -1,14 +1,17 @@
 // Puts the page together: storage, program, windows, keys, sound.
 
+import { NotArrived, showState } from "./arrival.js";
 import { ask, showEnd } from "./dialogs.js";
+import { make } from "./dom.js";
 import { keyOfCharacter, keyOfPress, shortcutLetter } from "./keys.js";
 import { Loop } from "./loop.js";
-import { assets, compiled, opened } from "./opening.js";
+import { arrival, assets, compiled, opened, styled } from "./opening.js";
 import { keepAll, loadAll, setPictures } from "./pictures.js";
 import { placeForPrinter } from "./printing.js";
 import { Program } from "./program.js";
 import { Sound } from "./sound.js";
 import { loadFonts } from "./text.js";
+import { forgetOthers, hasOther, keepVersion } from "./version.js";
 import { Voice } from "./voice.js";
 import { barHeight, Window } from "./window.js";
 
@@ -29,16 +32,27 @@ function isNobody(active) {
   return !active || active === document.body || active.matches("dialog, :disabled") || active.closest("[hidden], [inert]") !== null;
 }
 
+const ELSEWHERE = ["El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella."];
+
 class Page {
   #windows = new Map();
   #keyboard = false; // to be opened when the main window is in front
   #voice = new Voice();
   #isPrinting = false; // the browser prints by itself
+  #newer = null; // of another version, while the first window is in front
+
+  /** The program, as soon as it is there. */
+  program = null;
 
   constructor(storage, sounds) {
     this.sound = new Sound(sounds);
     this.storage = storage;
-    this.loop = new Loop(storage, (message) => this.#show(message), () => showEnd("Fin", "Gracias por jugar."));
+    this.loop = new Loop(storage, {
+      show: (message) => this.#show(message),
+      end: () => this.#end("Fin", "Gracias por jugar."),
+      fail: () => this.#end("El juego se ha parado", "Ha fallado por dentro. Lo que estaba guardado sigue guardado."),
+    });
+    storage.onLost = () => this.loop.stop(() => this.#end(...ELSEWHERE));
   }
 
   get front() {
@@ -47,15 +61,28 @@ class Page {
 
   listen() {
     addEventListener("keydown", (event) => this.#key(event));
-    addEventListener("resize", () => this.#resize());
+    addEventListener("resize", () => this.resize());
     addEventListener("beforeprint", () => this.#printFront());
     for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
     const help = document.getElementById("help");
     help.addEventListener("click", async () => {
       const { showHelp } = await import("./help.js");
-      await showHelp(this.storage, FINGERS.matches);
+      await showHelp({ storage: this.storage, program: this.program, other: hasOther().catch(() => false), byFingers: FINGERS.matches });
       this.front?.takeFocus();
     });
+  }
+
+  /** Offers another version, as long as no game can have begun. */
+  offerOther() {
+    if (this.#windows.size !== 1 || this.front.menus) return;
+    this.#newer = make("button", document.body, { id: "newer", type: "button", textContent: "Hay una versión nueva: empezar con ella" });
+    this.#newer.addEventListener("click", () => location.reload());
+  }
+
+  #end(title, text) {
+    this.#newer?.remove();
+    this.#windows.clear();
+    showEnd(title, text);
   }
 
   /** Tells the program the wishes, and each change of them. */
@@ -110,6 +137,7 @@ class Page {
   };
 
   #open(form, modal) {
+    this.#newer?.remove();
     const window = new Window(form, modal, (...event) => this.loop.send(...event));
     window.onCharacter = (character) => this.loop.send("key", ...keyOfCharacter(character));
     this.#windows.set(form, window);
@@ -168,7 +196,8 @@ class Page {
     setTimeout(() => this.loop.send("click", name, "cmdMostrar"));
   }
 
-  #resize() {
+  /** Places all that is shown anew, after the page or the letters have changed. */
+  resize() {
     this.tellRoom();
     for (const window of this.#windows.values()) window.resize();
   }
@@ -177,7 +206,7 @@ class Page {
     const { front } = this;
     if (!front || document.querySelector("dialog.message") || event.isComposing) return;
     if (this.#openMenus(event) || this.#leaveHelp(event)) return event.preventDefault();
-    const isOfPage = event.target.matches("#help, .offer, .foot button");
+    const isOfPage = event.target.matches("#help, #newer, .offer, .foot button");
     if (isOfPage && ["Enter", " ", "Tab"].includes(event.key)) return;
     const key = keyOfPress(event);
     if (key === null) return;
@@ -217,34 +246,53 @@ class Page {
   }
 }
 
-async function start() {
-  const [[alone, storage], { pictures, sounds }] = await Promise.all([opened, assets, loadFonts()]);
-  if (!alone) return showEnd("El juego ya está abierto en otra pestaña", "Ciérrala, o juega en ella.");
-  setPictures(pictures);
-  const page = new Page(storage, sounds);
-  const program = await Program.load(compiled, page.loop.page);
-  document.getElementById("loading")?.remove();
-  page.listen();
-  page.loop.start(program);
-  page.heedWishes();
-  page.tellRoom();
-  if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
-  keepForLater(() => page.front?.twip ?? 1 / 15);
+/** Waits until all of index.html is there. */
+function parsed() {
+  return document.readyState === "loading" && new Promise((resolve) => addEventListener("DOMContentLoaded", resolve));
 }
 
-/** Has the worker keep the page for days without a network, and loads what will be shown. */
-function keepForLater(twip) {
-  const whenIdle = globalThis.requestIdleCallback ?? setTimeout;
+async function start() {
+  document.documentElement.dataset.arrived = "yes";
+  await parsed();
+  const [storage] = await Promise.all([opened, styled]);
+  if (storage === null) return showEnd(...ELSEWHERE);
+  setPictures(assets.pictures);
+  const page = new Page(storage, assets.sounds);
+  page.program = await Program.load(compiled, page.loop.page);
+  arrival.end();
+  document.documentElement.dataset.started = "yes";
+  document.getElementById("loading").remove();
+  page.listen();
+  page.loop.start(page.program);
+  page.heedWishes();
+  page.tellRoom();
+  loadFonts().then(() => page.resize());
+  if (!storage.keeps) await ask("El juego de Zarpi", "Este navegador no deja guardar nada: podrás jugar, pero lo que guardes se perderá al cerrar la página.", ["Aceptar"]);
+  setTimeout(() => whenIdle(() => prepareLater(page)), HEAD_START);
+}
+
+/** Calls when the page has nothing better to do, and after a while anyway. */
+function whenIdle(deed) {
+  if (globalThis.requestIdleCallback) requestIdleCallback(deed, { timeout: HEAD_START });
+  else setTimeout(deed);
+}
+
+/** Loads what will be shown, has the worker keep the page for days without a network, looks for another version. */
+async function prepareLater(page) {
+  const twip = () => page.front?.twip ?? 1 / 15;
   navigator.serviceWorker?.addEventListener("controllerchange", () => keepAll(twip()));
-  const begin = () => {
-    navigator.serviceWorker?.register("worker.js").catch(() => {});
-    loadAll(twip());
-  };
-  setTimeout(() => whenIdle(begin), HEAD_START);
+  loadAll(twip());
+  await keepVersion().catch(() => {});
+  if (await hasOther().catch(() => false)) page.offerOther();
+  else forgetOthers();
 }
 
 addEventListener("unhandledrejection", (event) => console.error(event.reason));
+// A page that comes back from the browser's memory has lost its place in the storage.
+addEventListener("pageshow", (event) => event.persisted && location.reload());
 start().catch((error) => {
   console.error(error);
-  showEnd("El juego no puede empezar en este navegador", "Prueba con una versión más reciente de Firefox, Chrome, Edge o Safari.");
+  arrival.end();
+  const isOld = "Este navegador no puede con el juego. Prueba con una versión más reciente de Firefox, Chrome, Edge o Safari.";
+  showState(error instanceof NotArrived ? error.message : isOld, true);
 });

@@ -57,5 +57,5 @@ export async function loadAll(twip) {
 
 /** Asks for all pictures once more, for the worker to keep. */
 export function keepAll(twip) {
-  for (const picture of Object.values(known)) fetch(fileOf(picture, twip)).catch(() => {});
+  for (const picture of Object.values(known)) fetch(fileOf(picture, twip)).then((response) => response.blob()).catch(() => {});
 }

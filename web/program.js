@@ -47,6 +47,23 @@ export class Program {
     return this.#run();
   }
 
+  /** The pairs of stored files: names of counter and records, and how many bytes each can have. */
+  get pairs() {
+    const { memory, pairs } = this.#exports;
+    const all = new Uint8Array(memory.buffer, pairs());
+    const lines = new TextDecoder().decode(all.subarray(0, all.indexOf(0))).trim().split("\n");
+    return lines.map((line) => {
+      const [counter, records, counterSize, recordsSize] = line.split(" ");
+      return { counter, records, sizes: { [counter]: Number(counterSize), [records]: Number(recordsSize) } };
+    });
+  }
+
+  /** Whether a counter and records, each as bytes, fit each other, in a pair by its number from 0. */
+  fit(pair, counter, records) {
+    this.bytes(this.#exports.counter(), counter.length).set(counter);
+    return Boolean(this.#exports.fit(pair, counter.length, records.length));
+  }
+
   #run() {
     try {
       this.#exports.run(this.#game);

@@ -1,7 +1,8 @@
 // Texts in their boxes: where lines break, how large the letters are, where the first line begins. All in twips, so that
 // a text stands the same at every size of the window.
 
-const FAMILIES = { sans: "Zarpi Sans", arial: "Zarpi Sans", mono: "Zarpi Mono", serif: "Zarpi Serif" };
+const SANS = '"Zarpi Sans", Arial, sans-serif';
+const FAMILIES = { sans: SANS, arial: SANS, mono: '"Zarpi Mono", monospace', serif: '"Zarpi Serif", serif' };
 /** "sans" stands for a font whose letters are a trifle narrower, but not its blanks. */
 const SPACING = { sans: -0.012 };
 /** And whose lines are a trifle higher; the others are as high as their letters ask. */
@@ -14,7 +15,7 @@ const MEASURED = 1000;
 const pen = document.createElement("canvas").getContext("2d");
 
 function family(look) {
-  return `"${FAMILIES[look.font]}"`;
+  return FAMILIES[look.font];
 }
 
 function setPen(look) {
@@ -138,8 +139,9 @@ export function twips(length) {
   return `calc(${+length.toFixed(2)} * var(--twip))`;
 }
 
-/** Waits until the fonts can be measured. */
+/** Waits until the fonts can be measured; texts that are placed before stand in others. */
 export async function loadFonts() {
   const fonts = ["16px 'Zarpi Sans'", "bold 16px 'Zarpi Sans'", "bold 16px 'Zarpi Mono'"];
-  await Promise.all(fonts.map((font) => document.fonts.load(font))).catch(() => {});
+  await Promise.all(fonts.map((font) => document.fonts.load(font).catch(() => {})));
+  known.clear();
 }

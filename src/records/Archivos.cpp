@@ -20,6 +20,11 @@ std::optional<int> LeerContador(Files& files, const Par& par) {
     return content ? NúmeroDeContador(*content, par) : std::nullopt;
 }
 
+bool Encajan(std::string_view contador, std::size_t largo, const Par& par) {
+    const auto count = NúmeroDeContador(contador, par);
+    return count && largo % par.Largo == 0 && static_cast<std::size_t>(*count) * par.Largo <= largo;
+}
+
 bool EscribirContador(Files& files, const Par& par, int count) {
     std::string line(1, ' ');
     line.append(std::to_string(count)).append(" \r\n");

@@ -96,7 +96,7 @@ test("a tab killed at any operation of the storage leaves the old state or the n
     await next.front("Zarpi");
     assert.equal(await next.see("Zarpi.lblMensajeError"), null);
     await next.page.evaluate(async () => {
-      const request = indexedDB.deleteDatabase("zarpi");
+      const request = indexedDB.deleteDatabase("zarpi /");
       await new Promise((done) => (request.onblocked = request.onsuccess = done));
     });
     await next.page.close();
@@ -105,15 +105,17 @@ test("a tab killed at any operation of the storage leaves the old state or the n
   assert.deepEqual([...outcomes].sort(), [" 0 \r\n", " 1 \r\n"]);
 });
 
+/** In the page: a store that takes nothing while `isFull` says so. */
+const FULL = `{
+  const put = IDBObjectStore.prototype.put;
+  IDBObjectStore.prototype.put = function (...a) {
+    if (globalThis.isFull) throw new DOMException("full", "QuotaExceededError");
+    return put.apply(this, a);
+  };
+}`;
+
 test("what cannot be stored is told, the game goes on, and it is stored as soon as that can be", async () => {
-  const refuse = `{
-    const put = IDBObjectStore.prototype.put;
-    IDBObjectStore.prototype.put = function (...a) {
-      if (globalThis.isFull) throw new DOMException("full", "QuotaExceededError");
-      return put.apply(this, a);
-    };
-  }`;
-  const player = await enter({ prepare: `${fixed(WINNING_SEED)}; ${refuse}` });
+  const player = await enter({ prepare: `${fixed(WINNING_SEED)}; ${FULL}` });
   await playToWordThree(player);
   await player.page.evaluate(() => (globalThis.isFull = true));
   await saveGame(player, "clave");
@@ -161,13 +163,26 @@ test("the records leave the browser as the files of the desktop, and come into a
   execFileSync("zip", ["-q", "-j", "otro.zip", "Ultimo.dat", "Guardar.rnd"], { cwd: folder }); // compressed
   const other = await launch();
   try {
-    const guest = await Player.enter(other.browser, server.address);
+    const guest = await Player.enter(other.browser, server.address, { prepare: FULL });
     await guest.press(" ");
+    await guest.page.click("#help");
+    await (await guest.page.waitForSelector(".files input")).uploadFile(join(folder, "otro.zip"));
+    await guest.page.waitForFunction(() => document.querySelectorAll("dialog.message").length === 2);
+    const before = await guest.files();
+    await guest.page.evaluate(() => (globalThis.isFull = true));
+    await guest.press("Enter");
+    await guest.page.waitForFunction(() => /Todo queda como estaba/.test([...document.querySelectorAll("dialog.message")].at(-1).innerText));
+    await guest.press("Enter", "Escape");
+    await guest.page.evaluate(() => (globalThis.isFull = false));
+    await guest.press("F1", "F2"); // nothing of it waits for what is stored next
+    await pause(200);
+    assert.deepEqual(await guest.files(), before);
     await guest.page.click("#help");
     await (await guest.page.waitForSelector(".files input")).uploadFile(join(folder, "otro.zip"));
     await guest.page.waitForFunction(() => document.querySelectorAll("dialog.message").length === 2);
     await Promise.all([guest.page.waitForNavigation(), guest.press("Enter")]);
     await guest.page.waitForSelector("#frmPresenta");
+    assert.deepEqual(await guest.files(), { ...before, "Ultimo.dat": stored["Ultimo.dat"], "Guardar.rnd": stored["Guardar.rnd"] });
     await guest.press(" ");
     await guest.menu("mnuJuego", "mnuReanudar");
     await guest.front("frmReanudar");

@@ -1,31 +1,20 @@
 // The page in a browser: a server of its own, a fresh player, and what a player does and sees.
 
-import { mkdtemp, readFile, rm } from "node:fs/promises";
-import { createServer } from "node:http";
+import { mkdtemp, rm } from "node:fs/promises";
 import { tmpdir } from "node:os";
-import { extname, join } from "node:path";
+import { join } from "node:path";
 import puppeteer from "puppeteer-core";
+import { serve as serveFolder } from "../../scripts/serve.mjs";
 
 export const site = new URL(process.env.ZARPI_SITE ?? "../../build/web/juego/", import.meta.url);
-const TYPES = {
-  ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".json": "application/json",
-  ".wasm": "application/wasm", ".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2", ".ogg": "audio/ogg",
-};
 const OPTIONS = ["--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
   "--disable-component-update", "--disable-sync"];
 
 export const PHONE = { width: 360, height: 640, hasTouch: true, isMobile: true, deviceScaleFactor: 2 };
 
 /** Serves the page, and under `more` texts of other addresses. */
-export async function serve(more = {}) {
-  const server = createServer(async (request, response) => {
-    const path = decodeURIComponent(new URL(request.url, "http://site").pathname);
-    const type = TYPES[extname(path)] ?? (path === "/" ? "text/html" : "application/octet-stream");
-    const body = more[path] ?? await readFile(new URL(`.${path === "/" ? "/index.html" : path}`, site)).catch(() => null);
-    response.writeHead(body ? 200 : 404, { "content-type": type }).end(body);
-  });
-  await new Promise((done) => server.listen(0, "127.0.0.1", done));
-  return { address: `http://127.0.0.1:${server.address().port}/`, close: () => server.close() };
+export function serve(more = {}) {
+  return serveFolder({ folder: site, find: (path) => more[path] });
 }
 
 const BROWSERS = {
@@ -33,10 +22,11 @@ const BROWSERS = {
   firefox: { executablePath: process.env.FIREFOX ?? "/usr/bin/firefox-esr" },
 };
 
-/** A browser that knows nothing yet; close() takes all of it away. */
-export async function launch(name = "chrome") {
+/** A browser that knows nothing yet; close() takes all of it away. `more` are further options of its command line. */
+export async function launch(name = "chrome", more = []) {
   const profile = await mkdtemp(join(tmpdir(), "zarpi-web-"));
-  const browser = await puppeteer.launch({ browser: name, headless: true, userDataDir: profile, ...BROWSERS[name] });
+  const { executablePath, args = [] } = BROWSERS[name];
+  const browser = await puppeteer.launch({ browser: name, headless: true, userDataDir: profile, executablePath, args: [...args, ...more] });
   const close = async () => {
     await browser.close();
     await rm(profile, { recursive: true, force: true });
@@ -157,7 +147,7 @@ export class Player {
   files() {
     return this.page.evaluate(async () => {
       const wait = (request) => new Promise((done) => (request.onsuccess = () => done(request.result)));
-      const database = await wait(indexedDB.open("zarpi", 1));
+      const database = await wait(indexedDB.open("zarpi /", 1));
       const store = database.transaction("files").objectStore("files");
       const [names, contents] = await Promise.all([wait(store.getAllKeys()), wait(store.getAll())]);
       database.close();
