@@ -4,9 +4,8 @@
 import { completed, finished, NOTES } from "./database.js";
 
 const LEASE = "lease";
-const LENGTH = 10000; // milliseconds that a lease is good for
-const BEAT = 4000; // milliseconds after which it is renewed
-const ANSWER = 700; // milliseconds that the holder has to answer: its timers may be held back, messages are not
+const BEAT = 2000; // milliseconds after which a lease is renewed
+const LISTEN = 3000; // milliseconds in which its holder answers or renews it, if it lives: timers may be held back, messages are not
 
 const pause = (milliseconds) => new Promise((done) => setTimeout(done, milliseconds));
 
@@ -33,16 +32,15 @@ export class Lease {
   onLost = () => {};
 
   /**
-   * Takes the storage of this name; null if a page that lives has it. The lease of a browser that was lost runs out; `onWait` is
-   * called before that is waited for. `database` gives the database that is open.
+   * Takes the storage of this name; null if a page that lives has it. `onWait` is called before it is listened for one that has a
+   * lease. `database` gives the database that is open.
    */
   static async take(name, database, onWait) {
     const lease = new Lease(name, database);
     let held = await lease.#claim(undefined);
     if (held !== undefined) {
-      if (await lease.#isAnswered()) return lease.#leave();
       onWait();
-      await pause(Math.min(LENGTH, Math.max(0, held.until - Date.now())));
+      if (await lease.#isAnswered()) return lease.#leave();
       held = await lease.#claim(held);
       if (held !== undefined) return lease.#leave();
     }
@@ -63,7 +61,7 @@ export class Lease {
       this.#lose();
       throw new Error("another page has the storage");
     }
-    store.put({ id: this.#id, until: Date.now() + LENGTH }, LEASE);
+    store.put({ id: this.#id, renewed: Date.now() }, LEASE);
   }
 
   /** Takes the lease if there is none, or still the one that is `dead`; comes back with the one that is in the way. */
@@ -72,8 +70,8 @@ export class Lease {
     const done = completed(transaction);
     const store = transaction.objectStore(NOTES);
     const held = await finished(store.get(LEASE));
-    const isFree = held === undefined || (held.id === dead?.id && held.until === dead.until);
-    if (isFree) store.put({ id: this.#id, until: Date.now() + LENGTH }, LEASE);
+    const isFree = held === undefined || (held.id === dead?.id && held.renewed === dead.renewed);
+    if (isFree) store.put({ id: this.#id, renewed: Date.now() }, LEASE);
     await done;
     return isFree ? undefined : held;
   }
@@ -83,7 +81,7 @@ export class Lease {
       this.#channel.onmessage = ({ data }) => data === "held" && resolve(true);
     });
     this.#channel.postMessage("held?");
-    return Promise.race([answered, pause(ANSWER)]).then(Boolean);
+    return Promise.race([answered, pause(LISTEN)]).then(Boolean);
   }
 
   #keep() {
@@ -100,12 +98,15 @@ export class Lease {
     }
   }
 
+  /** Gives the lease back, in one step: a page that goes gets no answer any more. */
   #release() {
+    if (this.isLost) return;
     try {
-      const store = this.#database().transaction(NOTES, "readwrite").objectStore(NOTES);
-      store.get(LEASE).onsuccess = ({ target }) => target.result?.id === this.#id && store.delete(LEASE);
+      const transaction = this.#database().transaction(NOTES, "readwrite", { durability: "relaxed" });
+      transaction.objectStore(NOTES).delete(LEASE);
+      transaction.commit();
     } catch {
-      // The lease runs out by itself.
+      // Who comes next listens for a while, and takes it.
     }
   }
 

@@ -64,6 +64,7 @@ class Page {
     addEventListener("resize", () => this.resize());
     addEventListener("beforeprint", () => this.#printFront());
     for (const deed of ["pointerup", "keydown"]) addEventListener(deed, () => this.sound.wake(), { capture: true });
+    document.addEventListener("visibilitychange", () => this.sound.setHidden(document.hidden));
     const help = document.getElementById("help");
     help.addEventListener("click", async () => {
       const { showHelp } = await import("./help.js");
@@ -82,6 +83,7 @@ class Page {
   #end(title, text) {
     this.#newer?.remove();
     this.#windows.clear();
+    this.sound.close();
     showEnd(title, text);
   }
 

@@ -74,6 +74,10 @@ class Piece {
     if (this.#audio.paused && !this.#audio.ended) this.#audio.play().catch(() => {});
   }
 
+  pause() {
+    this.#audio.pause();
+  }
+
   /** The page's clock and that of the sound are two: it is the latter's that tells when the piece has faded. */
   fade({ silence, stop }) {
     const end = this.#fader.goTo(silence, stop);
@@ -99,7 +103,11 @@ export class Sound {
   #mix;
   #buffers = new Map();
   #channels = new Map();
+  #all = null; // fader of all that sounds
   #music = null; // fader of all music
+  #isHidden = false;
+  #isClosed = false;
+  #pause = 0;
   #over = 0; // sounds over the music
 
   /** `files` maps the names that the program uses to what lies on the server; a file that it does not have is silent. */
@@ -114,10 +122,38 @@ export class Sound {
 
   /** Browsers let a page sound from the player's first deed on. */
   wake() {
+    if (this.#isClosed) return;
     this.#context ??= this.#makeContext();
-    if (this.#context?.state !== "suspended") return;
+    if (this.#context?.state !== "suspended" || this.#isHidden) return;
     this.#context.resume().catch(() => {});
-    for (const { sound } of this.#channels.values()) if (sound instanceof Piece) sound.resume();
+    for (const piece of this.#pieces()) piece.resume();
+  }
+
+  /** A page that is not seen is not heard: what sounds fades, and the music goes on where it was when the page is seen again. */
+  setHidden(isHidden) {
+    this.#isHidden = isHidden;
+    clearTimeout(this.#pause);
+    if (this.#context === null) return;
+    const { silence, stop, up } = this.#mix;
+    this.#all.goTo(isHidden ? silence : 0, isHidden ? stop : up);
+    if (!isHidden) return this.wake();
+    this.#pause = setTimeout(() => {
+      for (const piece of this.#pieces()) piece.pause();
+      this.#context?.suspend().catch(() => {});
+    }, stop);
+  }
+
+  /** Nothing sounds any more. */
+  close() {
+    this.#isClosed = true;
+    for (const { sound } of this.#channels.values()) sound?.cut();
+    this.#channels.clear();
+    this.#context?.close().catch(() => {});
+    this.#context = null;
+  }
+
+  #pieces() {
+    return [...this.#channels.values()].map(({ sound }) => sound).filter((sound) => sound instanceof Piece);
   }
 
   async play(channel, name, overMusic) {
@@ -130,9 +166,9 @@ export class Sound {
     this.#channels.set(channel, playing);
     const buffer = await this.#load(file);
     // While the file came the channel may have been given something else to do.
-    if (buffer === null || this.#channels.get(channel) !== playing) return;
+    if (buffer === null || this.#isHidden || this.#channels.get(channel) !== playing) return;
     if (overMusic) this.#goBack(1);
-    playing.sound = new Effect(this.#context, buffer, this.#context.destination, () => {
+    playing.sound = new Effect(this.#context, buffer, this.#all.node, () => {
       if (overMusic) this.#goBack(-1);
       if (this.#channels.get(channel) === playing) this.#channels.delete(channel);
     });
@@ -140,7 +176,9 @@ export class Sound {
 
   #playMusic(channel, file) {
     for (const [key, { isMusic }] of this.#channels) if (isMusic) this.stop(key);
-    this.#channels.set(channel, { isMusic: true, sound: new Piece(this.#context, file, this.#music.node) });
+    const sound = new Piece(this.#context, file, this.#music.node);
+    this.#channels.set(channel, { isMusic: true, sound });
+    if (this.#isHidden) sound.pause();
   }
 
   /** Fades what the channel sounds. */
@@ -153,14 +191,14 @@ export class Sound {
   /** The warning sound. */
   beep() {
     this.wake();
-    if (this.#context === null) return;
+    if (this.#context === null || this.#isHidden) return;
     const tone = this.#context.createOscillator();
     const gain = this.#context.createGain();
     const now = this.#context.currentTime;
     gain.gain.setValueAtTime(0.15, now);
     gain.gain.setTargetAtTime(0, now + 0.1, 0.02);
     tone.frequency.value = 660;
-    tone.connect(gain).connect(this.#context.destination);
+    tone.connect(gain).connect(this.#all.node);
     tone.start(now);
     tone.stop(now + 0.25);
   }
@@ -169,7 +207,9 @@ export class Sound {
     try {
       const context = new AudioContext();
       this.#music = new Fader(context);
-      this.#music.node.connect(context.destination);
+      this.#all = new Fader(context);
+      this.#all.node.connect(context.destination);
+      this.#music.node.connect(this.#all.node);
       return context;
     } catch {
       return null;
