@@ -41,7 +41,7 @@ const DRAWINGS = {
 const KINDS = { PictureBox: "picture", Image: "picture", TextBox: "text" };
 
 /** Has the system pass on a window's content as a picture of this title. */
-export async function share({ elements }, title) {
+export async function share(elements, title) {
   const drawn = elements.filter(({ kind }) => kind in KINDS);
   const [left, top] = [Math.min(...drawn.map((one) => one.left)), Math.min(...drawn.map((one) => one.top))];
   const right = Math.max(...drawn.map((one) => one.left + one.width));

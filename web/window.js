@@ -164,11 +164,11 @@ export class Window {
     return { client: this.client.cloneNode(true), width: this.#form.width, height: this.#form.height };
   }
 
-  /** What is seen of the window, from back to front, for whoever draws it himself, and its size in twips. */
+  /** What is seen of the window, from back to front, for whoever draws it himself. */
   get content() {
     const order = ({ node }) => Number(node.style.zIndex);
     const elements = [...this.#elements.values()].filter(({ told }) => told.visible).sort((a, b) => order(a) - order(b));
-    return { elements: elements.map(({ told }) => told), width: this.#form.width, height: this.#form.height };
+    return elements.map(({ told }) => told);
   }
 
   get twip() {

@@ -49,7 +49,7 @@ constexpr std::array kOnStage = {
     Move{.Names = "lblComentario", .From = {2610, 0}, .To = {2250, 30}, .Scale = 1.15, .Width = 6700, .Height = 1995},
     Move{.Names = "lblMenComienzo", .From = {3090, 750}, .To = {2400, 830}, .Scale = 1.15},
     Move{.Names = "lblMensajeError", .From = {3060, 210}, .To = {2300, 30}},
-    Move{.Names = "lblComentAngus", .From = {9330, 1770}, .To = {2500, 30}, .Scale = 1.4, .Width = 3350, .Height = 810},
+    Move{.Names = "lblComentAngus", .From = {9330, 1770}, .To = {2500, 30}, .Scale = 1.4, .Width = 3000, .Height = 810},
     Move{.Names = "lblModo lblTapa1 lblTapa2", .From = {240, 7620}, .To = {150, 7130}, .Scale = 1.15},
     Move{.Names = "cmdDorvanquil", .From = {660, 7980}, .To = {240, 7530}, .Scale = 1.2},
     Move{.Names = "*", .From = {0, 2985}, .To = {0, kGroundTop}},
@@ -60,7 +60,7 @@ constexpr std::array kInStrip = {
     Move{.Names = "lblMensajeTiem lblTiempo Label8 lblNombre", .From = {9630, 120}, .To = {60, 130}, .Scale = 1.1},
     Move{.Names = "lblComodín(1)", .From = {9270, 3420}, .To = {2870, 220}, .Scale = 2, .Width = 1260, .Height = 1610},
     Move{.Names = "Shape1", .From = {9150, 3300}, .To = {2750, 110}, .Width = 1500, .Height = 1830},
-    Move{.Names = "lblComodín", .From = {9270, 3420}, .To = {4330, 330}, .Scale = 0.85, .Across = 0.98},
+    Move{.Names = "lblComodín", .From = {9270, 3420}, .To = {4330, 330}, .Scale = 0.8, .Across = 1.04},
     Move{.Names = "shpMosOcul cmdMostrar cmdOcultar", .From = {10230, 7470}, .To = {6520, 1050}, .Scale = 1.5},
 };
 
