@@ -5,10 +5,10 @@ from __future__ import annotations
 import math
 import random
 
-from brush import blotches, fill, radial, vertical
+from brush import blotches, blur, fill, radial, vertical
 from geometry import Affine, Knot, ellipse, star
 from ink import Ink
-from palette import LINE, SCARF, STAR, WASH, WASH_DEEP, WASH_LIGHT, Tone
+from palette import LINE, PLATE, SCARF, SHADE, STAR, WASH, WASH_DEEP, WASH_LIGHT, Tone
 
 WASHES: dict[str, tuple[int, int]] = {
     "nivel": (568, 337), "puntos": (470, 337), "nombre": (330, 148), "guardar": (318, 249), "reanudar": (449, 445),
@@ -35,7 +35,24 @@ def wash(name: str) -> Ink:
     seed = sum(map(ord, name))
     blotches(ink, "#ffd48a", 0.24, 0.006, seed)
     _trail(ink, seed)
+    if name == "nivel":
+        _portrait_card(ink, 420, 76, 105, 171)
     return ink
+
+
+def _portrait_card(ink: Ink, left: float, top: float, width: float, height: float) -> None:
+    """A framed card where the window lays the hero's picture. Its inner line goes on in the picture's own first column."""
+    def plate(grow: float, paint: str, more: str = "") -> None:
+        ink.raw(f'<rect x="{left - grow}" y="{top - grow}" width="{width + 2 * grow}" height="{height + 2 * grow}" rx="{grow}" fill="{paint}" {more}/>')
+
+    ink.raw(f'<g transform="translate(2 2.5)" opacity="0.35" filter="url(#{blur(ink, 1.2)})">')
+    plate(4.6, SHADE)
+    ink.raw("</g>")
+    plate(4.4, SCARF.base, f'stroke="{LINE}" stroke-width="1.2"')
+    plate(2.6, "#ffffff")
+    right, low = left + width, top + height
+    ink.raw(f'<path d="M{left + 8} {top - 0.5}H{right - 8}M{right + 0.5} {top + 9}V{top + 167}M{right - 4} {low + 0.5}H{left + 4}" fill="none" '
+            f'stroke="{PLATE}" stroke-width="1"/>')
 
 
 def _trail(ink: Ink, seed: int) -> None:

@@ -44,13 +44,21 @@ def diploma(players: int) -> Ink:
     for x, y, anchor, words in WORDS:
         size = 40 if words.startswith("¡") else SIZE
         _text(ink, x, y, anchor, size, "#8f1d2c" if size > SIZE else "#33241a", words.format(second=SECOND_LINE[players]))
-    for left, top, width, height in GAPS.values():
-        ink.raw(f'<path d="M{left - 2} {top + height + 2.5}h{width + 4}" stroke="{GOLD.shade}" stroke-width="1.4" stroke-dasharray="1 3" stroke-linecap="round"/>')
+    for gap in GAPS.values():
+        _plaque(ink, *gap)
     for x, y in FIGURES:
         ink.flat(ellipse(x, y, 17, 3.2, 14), GOLD.base, 0.4)
     _seal(ink, 590, 371)
     _ribbon_rosette(ink, 113, 371)
     return ink
+
+
+def _plaque(ink: Ink, left: float, top: float, width: float, height: float) -> None:
+    """A gilded tablet, in whose white middle the window writes."""
+    for grow, round_, fill_, line in ((5.5, 7, GOLD.base, GOLD.shade), (2, 3.5, "#ffffff", GOLD.shade)):
+        ink.raw(f'<rect x="{number(left - grow)}" y="{number(top - grow)}" width="{number(width + 2 * grow)}" height="{number(height + 2 * grow)}" '
+                f'rx="{round_}" fill="{fill_}" stroke="{line}" stroke-width="1"/>')
+    ink.raw(f'<path d="M{number(left - 1)} {number(top - 3.8)}h{number(width + 2)}" stroke="#f8e3a4" stroke-width="1.2" stroke-linecap="round"/>')
 
 
 def _watermark(ink: Ink) -> None:
@@ -136,7 +144,7 @@ FOLDS = (30, 24, 36, 28, 22, 34, 30, 26, 38, 24, 30, 36, 36)
 
 
 def curtain() -> Ink:
-    """Heavy cloth: deep folds, a golden braid and a fringe that ends above the lower edge of the window's box."""
+    """Heavy cloth: deep folds, a golden braid and a fringe that ends at the hem, the lower edge of the window's box (438 rows)."""
     ink = Ink(394, 472, CLOTH.base)
     x = 0.0
     for i, width in enumerate(FOLDS):
@@ -164,18 +172,19 @@ def _fold(ink: Ink, x: float, width: float, i: int) -> None:
 
 
 def _braid(ink: Ink) -> None:
-    top = 392
-    x, waves = 0.0, []
-    for i, width in enumerate(FOLDS):
-        waves.append((x + width * 0.5, top + (3 if i % 2 else -1)))
-        x += width
-    line: list[Knot] = [(-20, top), *waves, (420, top)]
+    top = 404
+
+    def wave(x: float) -> float:
+        """The cloth is closed at 360 pixels, six waves, so that the braids of its two wings meet."""
+        return top + 1 + 2 * math.sin(x * math.pi / 30)
+
+    line: list[Knot] = [(x * 5.0, wave(x * 5.0)) for x in range(-4, 84)]
     ink.line([(a, b + 2) for a, b in line], 13, "#3a0614")
     ink.line(line, 11, GOLD.shade)
     ink.line([(a, b - 1) for a, b in line], 7.5, GOLD.base)
     ink.line([(a, b - 2.4) for a, b in line], 2, "#f8df92")
     for i in range(99):
         a = i * 4.0
-        y = top + 6 + 1.5 * math.sin(a / 29)
-        ink.raw(f'<path d="M{a} {number(y)}v{22 + i % 3}" stroke="{(GOLD.base, GOLD.shade, "#f3d37c")[i % 3]}" stroke-width="3.2" stroke-linecap="round"/>')
+        y = wave(a) + 5
+        ink.raw(f'<path d="M{a} {number(y)}V{434 + i % 3}" stroke="{(GOLD.base, GOLD.shade, "#f3d37c")[i % 3]}" stroke-width="3.2" stroke-linecap="round"/>')
 

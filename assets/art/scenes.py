@@ -1,7 +1,9 @@
 """The place of the game: six stations of one journey under the ledge, the ledge itself and the face of the cliff.
 
 The scenes are washes: red letters, green boxes and navy titles lie on them, so nothing in them is darker
-than a pale middle tone and nothing small stands where the boxes are.
+than a pale middle tone. What is worth seeing stands where no box lies: on a ridge in the upper right, above the row of
+letters (from row 60 on) and beside the misses (of which the sixth reaches column 450); further down only the bands above
+the message (rows 128 to 145) and beside it (columns 200 to 226 and from 545 on) stay free.
 """
 
 from __future__ import annotations
@@ -19,7 +21,7 @@ Scene = Callable[[Ink], None]
 
 def _light(ink: Ink, colour: str) -> None:
     """Every scene is lighter in the middle, where the word stands."""
-    fill(ink, radial(ink, (0, colour + "c8"), (0.55, colour + "70"), (1, colour + "00"), centre=(0.5, 0.45), reach=0.62))
+    fill(ink, radial(ink, (0, colour + "c8"), (0.55, colour + "70"), (1, colour + "00"), centre=(0.47, 0.48), reach=0.55))
 
 
 def _paper(ink: Ink, colour: str, seed: int) -> None:
@@ -28,25 +30,28 @@ def _paper(ink: Ink, colour: str, seed: int) -> None:
 
 def valley(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#d9f0e4"), (0.5, "#eef8dc"), (1, "#cfe8ae")))
-    cloud(ink, 90, 34, 34, "#ffffff", 0.8)
-    cloud(ink, 470, 46, 30, "#ffffff", 0.7)
-    hill(ink, [(0, 120), (110, 78), (230, 118), (360, 84), (480, 112), (570, 90)], "#cfe9d0", 2)
-    hill(ink, [(0, 150), (150, 122), (300, 152), (450, 118), (570, 140)], "#c4e4b4")
-    round_tree(ink, 38, 150, 34, "#a9d59c", "#c3b58f")
-    round_tree(ink, 536, 150, 30, "#a9d59c", "#c3b58f")
-    hill(ink, [(0, 220), (160, 176), (330, 206), (570, 168)], "#bfe2a4")
-    way(ink, [(104, 440), (118, 346), (150, 270), (290, 216), (380, 168), (462, 118)], 96, 4, "#f3eccb")
+    cloud(ink, 180, 26, 32, "#ffffff", 0.8)
+    cloud(ink, 366, 22, 26, "#ffffff", 0.7)
+    hill(ink, [(0, 72), (110, 50), (230, 74), (360, 52), (480, 66), (570, 50)], "#cfe9d0", 2)
+    hill(ink, [(0, 96), (150, 74), (300, 96), (430, 66), (520, 56), (570, 58)], "#c4e4b4")
+    for x, y, size, leaf in ((558, 62, 32, "#b4dba6"), (470, 66, 26, "#b4dba6"), (516, 60, 44, "#a2d093")):
+        soft(ink, ellipse(x, y, size * 0.36, 2.2), "#a9cf98", 1, 0.8)
+        round_tree(ink, x, y, size, leaf, "#bda981")
+    hill(ink, [(0, 168), (160, 128), (330, 152), (570, 118)], "#bfe2a4")
+    for x, y, size in ((213, 142, 17), (556, 122, 22)):
+        round_tree(ink, x, y, size, "#aad69b", "#c3b58f")
+    way(ink, [(104, 440), (118, 346), (150, 270), (290, 196), (380, 138), (448, 84), (486, 64)], 96, 4, "#f3eccb")
     hill(ink, [(0, 352), (200, 342), (420, 354), (570, 336)], "#aed88f", 2)
 
 
 def fields(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#ffe9b8"), (0.45, "#fff6d8"), (1, "#ffd98a")))
-    soft(ink, ellipse(470, 66, 34, 34), "#fff9e0", 3)
-    hill(ink, [(0, 128), (120, 106), (260, 132), (400, 104), (570, 126)], "#fde3a4", 2)
-    _mill(ink, 62, 120, 1.15)
-    for i, (y, colour) in enumerate(((158, "#fbd98c"), (206, "#f9d07a"), (262, "#fbd684"), (322, "#f6c667"))):
+    soft(ink, ellipse(330, 28, 24, 24), "#fff9e0", 3)
+    hill(ink, [(0, 76), (120, 54), (260, 78), (400, 62), (500, 50), (570, 58)], "#fde3a4", 2)
+    _mill(ink, 512, 58, 0.82)
+    for i, (y, colour) in enumerate(((104, "#fbd98c"), (146, "#f9d07a"), (236, "#fbd684"), (322, "#f6c667"))):
         hill(ink, [(0, y + 8 * (i % 2)), (180, y - 14), (360, y + 10), (570, y - 12)], colour, 1.6)
-    way(ink, [(262, 450), (258, 356), (300, 278), (272, 216), (330, 168), (378, 116)], 92, 4, "#fff3cf")
+    way(ink, [(262, 450), (258, 356), (300, 278), (272, 206), (350, 148), (440, 96), (488, 62)], 92, 4, "#fff3cf")
 
 
 # The laths of a sail, the stock first.
@@ -70,7 +75,7 @@ def wood(ink: Ink) -> None:
     """Three rows of firs, each on the slope that it grows from; they open where the way goes in."""
     fill(ink, vertical(ink, (0, "#d4ebcb"), (0.5, "#ebf6db"), (1, "#bfdfa5")))
     draw = random.Random(4)
-    rows = ((112, 58, "#c9e5c0", "#d9eed0"), (140, 82, "#b9dcaf", "#cfe8c2"), (180, 108, "#abd4a0", "#c5e3b2"))
+    rows = ((58, 42, "#c9e5c0", "#d9eed0"), (72, 62, "#b9dcaf", "#cfe8c2"), (146, 92, "#abd4a0", "#c5e3b2"))
     for depth, (y, size, leaf, slope) in enumerate(rows):
         line = [(0, y + 6), (140, y - 2), (300, y - 12), (440, y - 3), (570, y + 4)]
         hill(ink, [(x, at - 7) for x, at in line], slope, 1.4)
@@ -78,11 +83,11 @@ def wood(ink: Ink) -> None:
         for i in range(count):
             x = (i + 0.5) * 580 / count + draw.uniform(-10, 10)
             tall = size * draw.uniform(0.85, 1.1)
-            if depth and 200 < x < 400:
+            if depth == 2 and 226 < x < 400 or depth == 1 and 300 < x < 420:
                 continue
             pointed_tree(ink, x, _height(line, x) + draw.uniform(-2, 4), tall, leaf, "#c0b48e")
-    hill(ink, [(0, 206), (180, 192), (330, 182), (570, 202)], "#bfe0a8")
-    way(ink, [(380, 450), (374, 352), (364, 272), (306, 226), (314, 190), (304, 164)], 96, 4, "#eeeccd")
+    hill(ink, [(0, 172), (180, 158), (330, 146), (570, 168)], "#bfe0a8")
+    way(ink, [(380, 450), (374, 352), (364, 262), (306, 206), (330, 160), (350, 118), (362, 72)], 96, 4, "#eeeccd")
     hill(ink, [(0, 346), (180, 356), (400, 340), (570, 350)], "#a7d18d", 2)
 
 
@@ -96,17 +101,19 @@ def _height(line: list[tuple[float, float]], x: float) -> float:
 
 def river(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#ffdca0"), (0.42, "#fff1cc"), (1, "#ffd9a0")))
-    soft(ink, ellipse(96, 66, 34, 34), "#fffbe6", 4)
-    hill(ink, [(0, 112), (120, 84), (250, 110), (350, 96), (440, 72), (570, 98)], "#fbd9a2", 2)
+    soft(ink, ellipse(214, 24, 22, 22), "#fffbe6", 4)
+    ink.raw('<g transform="translate(0 -56)">')
+    hill(ink, [(0, 116), (120, 92), (250, 112), (350, 96), (440, 78), (570, 98)], "#fbd9a2", 2)
     hill(ink, [(0, 142), (190, 126), (330, 116), (456, 104), (570, 118)], "#f9cf8e")
-    round_tree(ink, 34, 148, 40, "#f4bd73", "#d9a873")
-    round_tree(ink, 78, 144, 27, "#f6c683", "#d9a873")
     hill(ink, [(0, 236), (150, 190), (330, 160), (440, 128), (570, 132)], "#f8c983", 1.6)
     _water(ink)
-    way(ink, [(170, 450), (206, 352), (214, 296), (232, 246), (300, 196), (340, 160), (384, 131)], 84, 13, "#fff1cd")
+    way(ink, [(170, 500), (206, 402), (214, 316), (232, 256), (300, 196), (340, 160), (384, 131)], 84, 13, "#fff1cd")
     way(ink, [(538, 126), (556, 122), (600, 108)], 12, 8, "#fff1cd")
     _bridge(ink)
-    hill(ink, [(-20, 338), (120, 352), (230, 372), (570, 400)], "#f4ba6c", 2)
+    ink.raw("</g>")
+    for x, y, size in ((352, 78, 26), (213, 150, 30)):
+        round_tree(ink, x, y, size, "#f4bd73", "#d9a873")
+    hill(ink, [(-20, 338), (120, 344), (330, 352), (570, 330)], "#f4ba6c", 2)
 
 
 # The two banks of the river, from far to near and back.
@@ -163,25 +170,29 @@ def _bridge(ink: Ink) -> None:
 
 def sierra(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#ffe2a6"), (0.5, "#fff7dc"), (1, "#ffdf98")))
-    soft(ink, ellipse(70, 60, 30, 30), "#fffbe2", 3)
-    hill(ink, [(0, 110), (70, 74), (130, 98), (210, 40, 1), (270, 88), (340, 54, 1), (420, 104), (500, 62, 1), (570, 96)], "#fbdca4", 1.4)
-    for x, y in ((210, 42), (340, 56), (500, 64)):
-        soft(ink, [(x - 20, y + 20), (x, y, 1), (x + 22, y + 22), (x + 8, y + 15), (x, y + 24), (x - 8, y + 14)], "#fffaf0", 1)
-    hill(ink, [(0, 160), (120, 128), (240, 158), (380, 122), (570, 150)], "#f9d08a")
-    hill(ink, [(0, 232), (190, 190), (340, 222), (570, 180)], "#f7c878", 1.5)
-    way(ink, [(176, 450), (186, 356), (150, 292), (236, 244), (216, 198), (300, 162), (348, 124)], 88, 4, "#fff2cc")
+    soft(ink, ellipse(140, 28, 24, 24), "#fffbe2", 3)
+    hill(ink, [(0, 84), (70, 62), (140, 78), (226, 30, 1), (290, 72), (368, 26, 1), (430, 64), (516, 8, 1), (570, 54)], "#f6cf90", 1.2)
+    for x, y in ((226, 31), (368, 27), (516, 9)):
+        soft(ink, [(x - 20, y + 20), (x, y, 1), (x + 22, y + 22), (x + 8, y + 15), (x, y + 24), (x - 8, y + 14)], "#fffaf0", 0.8)
+    hill(ink, [(0, 104), (120, 84), (240, 106), (400, 72), (490, 60), (570, 76)], "#f9d08a")
+    hill(ink, [(0, 190), (190, 140), (340, 170), (570, 130)], "#f7c878", 1.5)
+    for x, y, size in ((213, 150, 20), (556, 134, 26), (444, 66, 15), (460, 65, 19), (548, 74, 18)):
+        pointed_tree(ink, x, y, size, "#e6b569", "#cf9f62")
+    way(ink, [(176, 450), (186, 356), (150, 292), (236, 224), (230, 178), (320, 140), (420, 100), (476, 64)], 88, 4, "#fff2cc")
     hill(ink, [(0, 340), (180, 356), (380, 344), (570, 320)], "#f4bd66", 2)
 
 
 def summit(ink: Ink) -> None:
     fill(ink, vertical(ink, (0, "#cfeadf"), (0.45, "#f0f9e3"), (1, "#c8e6b0")))
-    cloud(ink, 120, 58, 38, "#ffffff", 0.85)
-    cloud(ink, 330, 36, 26, "#ffffff", 0.75)
-    hill(ink, [(0, 150), (150, 128), (300, 140), (420, 98), (500, 78), (570, 96)], "#cbe7c6", 1.6)
-    castle(ink, 500, 86)
-    hill(ink, [(0, 190), (200, 168), (380, 172), (570, 138)], "#bddfae")
-    hill(ink, [(0, 262), (200, 226), (380, 240), (570, 204)], "#b3da9d", 1.6)
-    way(ink, [(180, 450), (180, 346), (268, 284), (280, 232), (370, 190), (396, 150), (494, 84)], 92, 4, "#f3efd2")
+    cloud(ink, 190, 30, 34, "#ffffff", 0.85)
+    cloud(ink, 372, 20, 24, "#ffffff", 0.75)
+    hill(ink, [(0, 100), (150, 84), (300, 96), (420, 70), (500, 54), (570, 62)], "#cbe7c6", 1.6)
+    castle(ink, 504, 57, size=0.76)
+    hill(ink, [(0, 140), (200, 120), (380, 112), (510, 76), (570, 84)], "#bddfae")
+    hill(ink, [(0, 232), (200, 186), (380, 190), (570, 150)], "#b3da9d", 1.6)
+    for x, y, size in ((213, 150, 22), (556, 126, 26), (452, 84, 18)):
+        round_tree(ink, x, y, size, "#a4d096", "#c3b58f")
+    way(ink, [(180, 450), (180, 346), (268, 264), (280, 202), (370, 150), (430, 106), (474, 78), (501, 60)], 92, 4, "#f3efd2")
     hill(ink, [(0, 330), (140, 344), (360, 356), (570, 340)], "#a5d28b", 2)
 
 
