@@ -24,6 +24,9 @@ class Element {
   }
 
   show(state, twip) {
+    const before = this.node.hidden ? undefined : this.sideways;
+    this.sideways = state.visible ? `${state.left} ${state.width}` : undefined;
+    this.node.classList.toggle("gliding", state.glides === true && before !== undefined && before !== this.sideways);
     this.node.hidden = !state.visible;
     if (!state.visible) return;
     const { style } = this.node;
@@ -32,6 +35,7 @@ class Element {
     style.width = twips(state.width);
     style.height = twips(state.height);
     this.node.classList.toggle("marked", state.marked === true);
+    this.node.classList.toggle("wanted", state.wanted === true);
     this.apply(state, twip);
   }
 

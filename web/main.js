@@ -102,6 +102,7 @@ class Page {
 
   #show(message) {
     if (message.every((object) => object.do === "wake")) return;
+    for (const element of document.querySelectorAll(".gliding")) element.classList.remove("gliding");
     for (const object of message) this.#deeds[object.do]?.(object);
     for (const window of this.#windows.values()) window.levelTexts();
     if (isNobody(document.activeElement) && !document.querySelector("dialog.message")) this.front?.takeFocus();

@@ -94,6 +94,7 @@ Desktop::Parts::Parts(int& argc, char** argv)
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
     display_.OnEnd = [this] { folder_.Leave(); };
+    display_.LetGlide();
     display_.OnFirstWindow = [this] {
         media_.Start();
         LoadTranslation();

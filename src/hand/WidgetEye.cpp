@@ -34,16 +34,11 @@ Value Length(const Scale& scale, int pixels, int wantedPixels, const Value& stat
     return pixels == wantedPixels ? state : Value(ToTwips(scale, pixels));
 }
 
-/// Where a widget has to lie. Edges are rounded; a picture box keeps the size of its picture, and a line has its width
-/// on both sides.
+/// Where a widget has to lie. Edges are rounded; a picture box stands on whole pixels of the design, and a line has its
+/// width on both sides.
 QRect WantedPlace(const Scale& scale, const Control& control) {
-    if (control.kind == Kind::PictureBox) {
-        return {scale.Pixels(control.Left), scale.Pixels(control.Top), scale.Pixels(control.Width),
-                scale.Pixels(control.Height)};
-    }
-    const QPoint corner(scale.Pixels(control.Left), scale.Pixels(control.Top));
-    const QPoint end(scale.Pixels(control.Left + control.Width), scale.Pixels(control.Top + control.Height));
-    const QRect box(corner, QSize(end.x() - corner.x(), end.y() - corner.y()));
+    const Place place = control;
+    const QRect box = scale.Rect(control.kind == Kind::PictureBox ? OnPixels(place) : place);
     if (control.kind != Kind::Line) return box;
     const int line = scale.LineWidth(static_cast<const Line&>(control).BorderWidth);
     return {box.topLeft() - QPoint(line / 2, line / 2), box.size().expandedTo(QSize(line, line))};

@@ -50,6 +50,16 @@ struct Place {
 };
 constexpr bool Hidden = false;
 
+/// The place of a picture box: its corner stands on a whole pixel of the design, so that two of them that are less than
+/// a pixel apart meet.
+constexpr Place OnPixels(Place place) {
+    constexpr int kPixel = 15;
+    const auto floored = [](int twips) { return twips - (twips % kPixel + kPixel) % kPixel; };
+    place.Left = floored(place.Left);
+    place.Top = floored(place.Top);
+    return place;
+}
+
 enum class FontName { MSSansSerif, Arial, CourierNew, TimesNewRoman };
 enum class Alignment { Left, Centre };
 enum class Kind { Label, PictureBox, Image, Shape, Line, CommandButton, TextBox, ListBox, Menu, Timer };
@@ -89,6 +99,13 @@ public:
 
     /// What a finger does on the element. Set once, like Click.
     Pull Drawn{};
+
+    /// Whether the program waits for a click on the element just now: platforms then point it out. Set once, like
+    /// Click; not set for what can be clicked at most times.
+    std::function<bool()> Wanted;
+
+    /// Whether its view may glide sideways to a new place. Set once, like Click.
+    bool Glides = false;
 
     /// What a screen reader calls the element; empty: it has nothing to say and is left out. Where this is not set,
     /// labels and buttons are called by their caption and pictures and figures are left out. Set once, like Click.

@@ -41,6 +41,10 @@ void Juego::ConectarVentana() {
     z.shpTecla.OnClick(clickKey);
     z.lblComodín.OnClick([this](int index) { comodines.lblComodín_Click(index); });
     z.lblLetra.OnClick([this](int index) { comodines.lblLetra_Click(index); });
+    for (Label& box : z.lblLetra) {
+        box.Wanted = [this, &box] { return z.fComodín && box.Index <= z.LargoPalabra && box.Caption.empty(); };
+    }
+    z.picZarpi.Glides = z.shpEmpujador1.Glides = z.shpEmpujador2.Glides = true;
     z.tmrTiempo.Click = [this] { reloj.tmrTiempo_Timer(); };
     z.cmdMostrar.Click = [this] { cmdMostrar_Click(z, s.Media); };
     z.cmdOcultar.Click = [this] { cmdOcultar_Click(z, s.Media); };

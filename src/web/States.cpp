@@ -146,7 +146,10 @@ Seen SeenOf(const Control& control, const Stand& stand, const Wishes& wishes, bo
               .look = LookOf(control, wishes.HighContrast),
               .spoken = SpokenNameOf(control),
               .clicks = control.Click != nullptr,
-              .isMarked = isMarked};
+              .isMarked = isMarked,
+              .isWanted = control.Wanted && control.Wanted()};
+    const Place& design = control;
+    if (control.kind == Kind::PictureBox && design == seen.stand) static_cast<Place&>(seen.stand) = OnPixels(design);
     if (stand.Scale != 1) ScaleLetters(seen.look, stand.Scale);
     return seen;
 }
@@ -166,6 +169,8 @@ std::string StateOf(const Control& control, const Seen& seen) {
         .Number("tab", TabIndexOf(control))
         .Text("spoken", seen.spoken);
     if (seen.isMarked) json.Flag("marked", true);
+    if (seen.isWanted) json.Flag("wanted", true);
+    if (control.Glides) json.Flag("glides", true);
     if (control.Drawn.Step != 0) {
         const double step = control.Drawn.Step * seen.stand.Scale;
         json.Raw("drawn", "[" + std::to_string(static_cast<int>(step)) + "," + std::to_string(control.Drawn.LeftKey) +

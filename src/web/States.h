@@ -32,6 +32,7 @@ struct Seen {
     Text spoken{};
     bool clicks = false;
     bool isMarked = false;  ///< a mark tells what its blinking would have told
+    bool isWanted = false;  ///< a click on it is waited for
 
     bool operator==(const Seen&) const = default;
 };

@@ -35,7 +35,10 @@ public:
     TextBox Text5{*this, "Text5", {6390, 5190, 1935, 525}, Hueco(14.25)};
     PictureBox picDiploma1{*this, "picDiploma1", {510, 360, 10575, 6575}, {.Stored = "diploma1"}};
     PictureBox picDiploma2{*this, "picDiploma2", {510, 360, 10575, 6575}, {.Stored = "diploma2"}};
-    Shape Shape1{*this, "Shape1", {360, 330, 10905, 6400}, {.BorderColor = DarkRed, .BorderWidth = 3}};
+    Shape Shape1{*this,
+                 "Shape1",
+                 {360, 330, 10905, 6400},
+                 {.Shape = Figure::Rectangle, .BorderColor = DarkRed, .BorderWidth = 3}};
     Shape shpAceptar{*this, "shpAceptar", {3600, 7380, 1605, 525}, ButtonPlate()};
     Shape shpImprimir{*this, "shpImprimir", {6420, 7380, 1605, 525}, ButtonPlate()};
     MediaChannel sonDiploma{.Name = "sonDiploma", .FileName = {}, .OverMusic = true};

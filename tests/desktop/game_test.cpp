@@ -75,7 +75,7 @@ TEST_P(Game, NoSpeckOfThePusherIsLeftInTheAnguish) {
     rig.display.Refresh();
     const QImage seen = Seen(z);
     for (int y = 0; y < rig.scale.Pixels(2520); ++y) {
-        for (int x = rig.scale.Pixels(7610); x < rig.scale.Pixels(7760); ++x) {
+        for (int x = rig.scale.Pixels(7625) + 1; x < rig.scale.Pixels(7760); ++x) {
             const QColor color(seen.pixel(x, y));
             EXPECT_LT(color.blue(), qMax(color.green(), color.red()) + 50) << x << " " << y;
         }
@@ -96,6 +96,62 @@ TEST_P(Game, TheFaceOfAButtonHasTheColourOfTheDesign) {
     rig.screen.Show(about);
     const QImage face = rig.Widget(about, "cmdAceptar").grab().toImage();
     EXPECT_EQ(face.pixel(face.width() / 8, face.height() / 2) & kRgb, 0x00C000U);
+}
+
+TEST_P(Game, AButtonShowsItsFocusAfterAKeyAlone) {
+    auto& about = Window<Form>("frmAcerca");
+    rig.screen.Show(about);
+    const auto& ring = rig.Widget(about, "ring");
+    EXPECT_FALSE(ring.isVisible());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        QTest::keyClick(rig.Widget(about).window()->windowHandle(), key);
+    }
+    EXPECT_TRUE(ring.isVisible());
+    const QRect plate = rig.Widget(about, "shpAceptar").geometry();
+    EXPECT_EQ(ring.geometry().center(), plate.center());
+    EXPECT_TRUE(ring.geometry().contains(plate));
+}
+
+TEST_P(Game, ClosedCurtainsMeet) {
+    auto& diploma = Window<Form>("frmDiploma");
+    rig.screen.Show(diploma);
+    EXPECT_EQ(rig.Widget(diploma, "Picture2").geometry().right() + 1,
+              rig.Widget(diploma, "Picture3").geometry().left());
+}
+
+TEST_P(Game, AnArmedJokerPointsOutTheEmptyBoxes) {
+    z.OnLoad = nullptr;
+    rig.screen.Show(z);
+    const auto hints = [this] {
+        rig.display.Refresh();
+        const auto rings = rig.Widget(z).findChildren<QWidget*>("hint");
+        return std::ranges::count_if(rings, &QWidget::isVisible);
+    };
+    z.LargoPalabra = 3;
+    z.lblLetra(2).Caption = u"A";
+    EXPECT_EQ(hints(), 0);
+    z.fComodín = true;
+    EXPECT_EQ(hints(), 2);
+    EXPECT_EQ(rig.Widget(z, "lblLetra(2)").cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(rig.Widget(z, "lblLetra(3)").cursor().shape(), Qt::PointingHandCursor);
+    z.fComodín = false;
+    EXPECT_EQ(hints(), 0);
+}
+
+TEST_P(Game, AGlideIsOverWhenTheNextThingHappens) {
+    z.OnLoad = nullptr;
+    rig.display.LetGlide();
+    rig.screen.Show(z);
+    const QWidget& hero = rig.Widget(z, "picZarpi");
+    z.picZarpi.Left += 1140;
+    rig.display.Refresh();
+    const int place = rig.scale.Pixels(2160);
+    EXPECT_LT(hero.x(), place);
+    EXPECT_GT(hero.x(), rig.scale.Pixels(1020));
+    QTest::qWait(20);
+    z.Label5.Caption = u"Mal.";
+    rig.display.Refresh();
+    EXPECT_EQ(hero.x(), place);
 }
 
 TEST_P(Game, TheRulesKeepRoomForTheirHeadings) {

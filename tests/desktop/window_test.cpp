@@ -303,14 +303,17 @@ TEST_F(Sizes, AllWindowsFollowTheMainOne) {
     EXPECT_EQ(game.window->size(), Scale(Scale::kLeast).Size(kDesign));
 }
 
-TEST_F(Sizes, WhatTheContentCannotFillIsBlack) {
+TEST_F(Sizes, TheMenuStandsOverTheContentWhateverTheWindowHasBesideIt) {
     Opened game(main);
     game.Resize(Scale(1.5).Size(kDesign) + QSize(200, 0));
     const QRect client = game.Widget(main).geometry();
     EXPECT_EQ(client.left(), 100);
     EXPECT_EQ(client.size(), Scale(1.5).Size(kContent));
     const QImage seen = game.window->grab().toImage();
-    EXPECT_EQ(seen.pixel(99, 300) & 0xFFFFFFU, 0U);
+    EXPECT_EQ(seen.pixel(99, 300) & 0xFFFFFFU, 0x303A54U);
+    const QRect bar = game.Widget(main, "menu").geometry();
+    EXPECT_EQ(bar.bottomLeft() + QPoint(0, 1), client.topLeft());
+    EXPECT_EQ(bar.width(), client.width());
     EXPECT_EQ(seen.pixel(100, 300) & 0xFFFFFFU, 0x00FF00U);
     Opened::LetGo();
     EXPECT_EQ(game.window->size(), Scale(1.5).Size(kDesign));

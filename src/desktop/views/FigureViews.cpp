@@ -23,8 +23,12 @@ void ShapeWidget::SetLook(const ShapeLook& look, int lineWidth, int rounding) {
     update();
 }
 
-void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
+double ShapeWidget::Rounding() const {
     constexpr double kRounding = 0.25;  // of the shorter side
+    return qMin<double>(rounding_, kRounding * qMin(width(), height()));
+}
+
+void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setBrush(fill_);
     painter.setPen(border_);
@@ -34,8 +38,7 @@ void ShapeWidget::paintEvent(QPaintEvent* /*event*/) {
     if (figure_ == Figure::Oval) {
         painter.drawEllipse(box);
     } else {
-        const double radius = qMin<double>(rounding_, kRounding * qMin(width(), height()));
-        painter.drawRoundedRect(box, radius, radius);
+        painter.drawRoundedRect(box, Rounding(), Rounding());
     }
 }
 

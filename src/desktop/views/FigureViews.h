@@ -13,6 +13,8 @@ public:
 
     /// The width of the border and the largest rounding of a corner, in pixels.
     void SetLook(const ShapeLook& look, int lineWidth, int rounding);
+    /// The radius of its corners in pixels; 0 for one without.
+    [[nodiscard]] double Rounding() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

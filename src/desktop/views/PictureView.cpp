@@ -32,8 +32,7 @@ void PictureBoxView::Forget() {
 }
 
 QRect PictureBoxView::Geometry(const platform::Place& place) const {
-    const Scale& scale = toolkit_.Scale;
-    return {scale.Pixels(place.Left), scale.Pixels(place.Top), scale.Pixels(place.Width), scale.Pixels(place.Height)};
+    return toolkit_.Scale.Rect(OnPixels(place));
 }
 
 void PictureBoxView::Apply(const PictureLook& look) {

@@ -82,6 +82,9 @@ void TextBoxView::Apply(const TextBoxLook& look) {
     widget_.setAlignment(Qt::AlignVCenter | (look.Align == Alignment::Centre ? Qt::AlignHCenter : Qt::AlignLeft));
     widget_.setEchoMode(look.Password ? QLineEdit::Password : QLineEdit::Normal);
     widget_.setReadOnly(look.Locked);
+    // What cannot be changed looks like a text, not like a box to type in.
+    widget_.setFrame(!look.Locked);
+    widget_.setCursor(look.Locked ? Qt::ArrowCursor : Qt::IBeamCursor);
     widget_.setEnabled(look.Enabled);
     const QString text = ToQt(look.Text);
     const QSignalBlocker silent(widget_);

@@ -1,6 +1,7 @@
 #include "desktop/views/View.h"
 
 #include <QEvent>
+#include <utility>
 
 #include "desktop/values/Strings.h"
 #include "desktop/views/ButtonView.h"
@@ -64,6 +65,32 @@ void View::TakeFocus(int tabIndex) {
     if (tabIndex == 0) return;
     widget_.setFocusPolicy(Qt::StrongFocus);
     new FocusFilter(widget_, toolkit_.Screen, element_);
+}
+
+bool View::Glides(const Place& from, const Place& to) const {
+    const bool isMoved = from.Left != to.Left || from.Width != to.Width;
+    return isMoved && element_.Glides && toolkit_.Glides && !toolkit_.Wishes.Stillness && widget_.isVisible();
+}
+
+void View::GlideTo(const QRect& geometry) {
+    constexpr int kDuration = 120;  // ms
+    glide_ = new QPropertyAnimation(&widget_, "geometry", &widget_);
+    glide_->setDuration(kDuration);
+    glide_->setEndValue(geometry);
+    glide_->setEasingCurve(QEasingCurve::OutCubic);
+    glide_->start(QAbstractAnimation::DeleteWhenStopped);
+    constexpr int kFirstFrame = 16;
+    glide_->setCurrentTime(kFirstFrame);
+    isNew_ = true;
+}
+
+void View::EndGlide() {
+    if (glide_) glide_->setCurrentTime(glide_->duration());
+    glide_.clear();
+}
+
+void View::Arrive() {
+    if (!std::exchange(isNew_, false)) EndGlide();
 }
 
 std::unique_ptr<View> MakeView(const Toolkit& toolkit, Control& element, QWidget& client) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QPropertyAnimation>
 #include <QRect>
 #include <QWidget>
 #include <memory>
@@ -25,6 +27,7 @@ struct Toolkit {
     desktop::DoubleClicks& DoubleClicks;
     desktop::Sizing& Sizing;
     const platform::Wishes& Wishes;
+    const bool& Glides;  ///< views may glide
 };
 
 /// Shows the state of one element in one widget, which has the name of the element.
@@ -39,6 +42,8 @@ public:
     virtual bool Refresh() = 0;
     /// The factor has changed: the next refresh shows everything anew.
     virtual void Forget() = 0;
+    /// Ends a glide that began before this refresh.
+    void Arrive();
 
     [[nodiscard]] QWidget& Widget() const { return widget_; }
     [[nodiscard]] Control& Element() const { return element_; }
@@ -55,12 +60,19 @@ protected:
     }
     /// Gives the widget its place in the order of the focus and tells the screen when the player moves it there.
     void TakeFocus(int tabIndex);
+    /// Whether the way from an old place to a new one may be shown.
+    [[nodiscard]] bool Glides(const Place& from, const Place& to) const;
+    /// Lets the widget glide to a rectangle; its first frame is on the way already.
+    void GlideTo(const QRect& geometry);
+    void EndGlide();
 
     const Toolkit& toolkit_;
 
 private:
     Control& element_;
     QWidget& widget_;  // belongs to the client area
+    QPointer<QPropertyAnimation> glide_;
+    bool isNew_ = false;  // the glide began in this refresh
 };
 
 /// A view that remembers the state it last showed. E is the kind of element, W the widget that shows it.
@@ -102,9 +114,12 @@ private:
         : View(toolkit, element, widget), element_(element), widget_(widget) {}
 
     void SetPlace(const platform::Place& place) {
+        const bool glides = place_ && Glides(*place_, place);
+        EndGlide();
         place_ = place;
         const QRect geometry = Geometry(place);
         if (geometry.size() != widget_.size()) look_.reset();
+        if (glides) return GlideTo(geometry);
         widget_.setGeometry(geometry);
     }
 

@@ -18,6 +18,9 @@ namespace platform::desktop {
 
 namespace {
 
+/// Of what lies round the content, as on the page.
+constexpr QColor kGround(0x30, 0x3A, 0x54);
+
 Qt::WindowFlags FlagsOf(const Form& form, bool modal) {
     const Qt::WindowFlags frame =
         Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -38,7 +41,7 @@ FormWindow::FormWindow(const Toolkit& toolkit, Form& form, const Before& before,
       form_(form),
       client_(*new Client(this)),
       cursor_(toolkit_, form, board_, client_),
-      mark_(*new Ring(client_, toolkit.Scale, Qt::yellow)),
+      mark_(*new Ring(client_, toolkit.Scale, {.Outer = Qt::black, .Inner = Qt::yellow, .Band = 3, .Gap = 0})),
       keys_(*new KeyFilter(toolkit_, form, client_)) {
     setObjectName(ToQt(std::string_view(form.Name)));
     mark_.setObjectName("mark");
@@ -66,6 +69,10 @@ void FormWindow::MakeViews() {
         auto view = MakeView(toolkit_, *control, client_);
         if (!view) continue;
         if (auto* const label = dynamic_cast<LabelView*>(view.get())) labels_.push_back(label);
+        if (control->Wanted) {
+            view->Widget().unsetCursor();
+            hints_.emplace_back(view.get(), nullptr);
+        }
         board_.Add(*view);
         views_.emplace(control, std::move(view));
     }
@@ -85,11 +92,15 @@ void FormWindow::Refresh() {
     RefreshLayers();
     bool changed = false;
     for (const auto& [control, view] : views_) changed = view->Refresh() || changed;
-    if (changed) LevelTexts();
+    if (changed) {
+        for (const auto& [control, view] : views_) view->Arrive();
+        LevelTexts();
+    }
     if (changed && toolkit_.Wishes.HighContrast) RaiseContrast();
     RefreshFocus();
     cursor_.Refresh();
     RefreshMark();
+    RefreshHints();
 }
 
 void FormWindow::RefreshFrame() {
@@ -119,9 +130,9 @@ void FormWindow::Arrange() {
     const QSize content = scale.Size({form_.Width, form_.Height});
     const int top = all.height() - content.height();
     if (!IsMain()) setFixedSize(all);
-    if (menu_) menu_->SetSize({width(), top});
-    client_.setGeometry(
-        QRect(QPoint(qMax(0, width() - all.width()) / 2, top + qMax(0, height() - all.height()) / 2), content));
+    const QPoint corner(qMax(0, width() - all.width()) / 2, qMax(0, height() - all.height()) / 2);
+    if (menu_) menu_->SetPlace({corner, QSize(qMin(width(), all.width()), top)});
+    client_.setGeometry(QRect(corner + QPoint(0, top), content));
 }
 
 void FormWindow::ShowAnew(const FormWindow& first) {
@@ -138,7 +149,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
 
 /// The surroundings of a content that cannot fill its window.
 void FormWindow::paintEvent(QPaintEvent* event) {
-    QPainter(this).fillRect(event->rect(), Qt::black);
+    QPainter(this).fillRect(event->rect(), kGround);
 }
 
 void FormWindow::SetGround() {
@@ -186,6 +197,19 @@ void FormWindow::RefreshMark() {
     const auto marked =
         std::ranges::find_if(views_, [this](const auto& view) { return toolkit_.Screen.IsMarked(*view.first); });
     mark_.Surround(marked == views_.end() ? nullptr : &marked->second->Widget());
+}
+
+void FormWindow::RefreshHints() {
+    for (auto& [view, ring] : hints_) {
+        const bool isWanted = view->Element().Visible && view->Element().Wanted();
+        if (!isWanted && ring == nullptr) continue;
+        if (ring == nullptr) {
+            ring = new Ring(client_, toolkit_.Scale, {.Outer = kGround, .Inner = {}, .Band = 2, .Gap = -6});
+            ring->setObjectName("hint");
+        }
+        view->Widget().setCursor(isWanted ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        ring->Surround(isWanted ? &PlateOf(view->Widget()) : nullptr);
+    }
 }
 
 /// Raises what has come to the front. From the back on, widgets stay where they are as long as the order is the old

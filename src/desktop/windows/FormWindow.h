@@ -60,6 +60,7 @@ private:
     void LevelTexts();
     void RaiseContrast();
     void RefreshMark();
+    void RefreshHints();
     [[nodiscard]] bool IsMain() const { return form_.MinButton; }
     [[nodiscard]] QSize DesignSize() const;
     void Arrange();
@@ -76,6 +77,8 @@ private:
     std::unique_ptr<MenuView> menu_;
     std::map<const Control*, std::unique_ptr<View>> views_;
     std::vector<LabelView*> labels_;
+    /// The elements on which a click can be waited for, and the outline that tells of it.
+    std::vector<std::pair<View*, Ring*>> hints_;
     std::vector<Control*> layers_;  // from back to front, as the widgets stand
     std::optional<FormLook> shown_;
 };

@@ -67,9 +67,9 @@ void MenuView::Show(const Entry& entry) {
     entry.action->setEnabled(look.Enabled);
 }
 
-void MenuView::SetSize(QSize size) {
-    style_.Height = size.height();
-    bar_.setGeometry(QRect(QPoint(), size));
+void MenuView::SetPlace(const QRect& place) {
+    style_.Height = place.height();
+    bar_.setGeometry(place);
 }
 
 void MenuView::Refresh() {

@@ -32,8 +32,8 @@ public:
     /// Shows what has changed since the last time.
     void Refresh();
     [[nodiscard]] QMenuBar& Bar() const { return bar_; }
-    /// Gives the bar its place at the top of its window, in pixels.
-    void SetSize(QSize size);
+    /// Gives the bar its place in its window, in pixels.
+    void SetPlace(const QRect& place);
 
 private:
     struct Entry {

@@ -42,7 +42,7 @@ void WindowDisplay::Opened(Form& form, bool modal) {
             const auto tell = [this] {
                 if (OnFirstWindow) OnFirstWindow();
             };
-            QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(&sizing_, tell, Qt::QueuedConnection);
         };
     }
     hadWindow_ = true;

@@ -28,12 +28,14 @@ public:
 
     /// Brings the windows before those of other programs, as far as the desktop lets them.
     void ComeToFront() const;
+    /// Lets views glide to new places; without it they are there at once.
+    void LetGlide() { glides_ = true; }
     /// Shows everything as the player wishes it from here on.
     void Heed(const Wishes& wishes);
     /// The window of an open form; null if it is not open.
     [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
     /// What its windows are made with.
-    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_, sizing_, wishes_}; }
+    [[nodiscard]] Toolkit Kit() { return {*screen_, scale_, pictures_, doubleClicks_, sizing_, wishes_, glides_}; }
     /// The window in front; null if there is none.
     [[nodiscard]] FormWindow* FrontWindow() const;
 
@@ -47,6 +49,7 @@ private:
     Scale scale_;
     Sizing sizing_{scale_};
     Wishes wishes_;
+    bool glides_ = false;
     const Pictures pictures_{scale_};
     DoubleClicks doubleClicks_;
     Repetitions repetitions_;
