@@ -93,6 +93,8 @@ Desktop::Parts::Parts(int& argc, char** argv)
     InstallAccess();
     heartbeat_.Attach(scheduler_, screen_);
     display_.OnRefresh = [this] { heartbeat_.Arm(); };
+    media_.UnderVoice(speech_.IsHeard());
+    speech_.OnHeard = [this](bool listens) { media_.UnderVoice(listens); };
     display_.OnEnd = [this] { folder_.Leave(); };
     display_.LetGlide();
     display_.OnFirstWindow = [this] {

@@ -32,6 +32,15 @@ TEST(Announcer, SpeaksWhenTheWindowHasTheKeyboardAndSpellsAForeignWord) {
     EXPECT_EQ(spoken, QStringList({"uno", "Es FOUR: F, O, U, R. Cuatro.", "Come on, friend!"}));
 }
 
+TEST(Announcer, TellsThatAReaderListens) {
+    Announcer announcer([] { return nullptr; });
+    std::vector<bool> heard;
+    announcer.OnHeard = [&heard](bool listens) { heard.push_back(listens); };
+    QAccessible::setActive(true);
+    QAccessible::setActive(false);
+    EXPECT_EQ(heard, (std::vector{true, false}));
+}
+
 /// A form whose letter, hero and button answer clicks, in rows: letter and hero; text box and list; button.
 struct Access : testing::Test {
     Access() {

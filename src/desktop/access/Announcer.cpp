@@ -58,9 +58,11 @@ Announcer::Announcer(std::function<QWidget*()> front) : front_(std::move(front))
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Speak(); });
     QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &timer_, [this] { Await(); });
+    QAccessible::installActivationObserver(this);
 }
 
 Announcer::~Announcer() {
+    QAccessible::removeActivationObserver(this);
     Clear();
 }
 

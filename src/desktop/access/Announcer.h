@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QStringList>
 #include <QTimer>
 #include <array>
@@ -16,7 +17,7 @@ class Notice;
 
 /// Speaks through the screen reader that runs, wherever the focus is. What is said while a window comes to the front is
 /// spoken when the window has the keyboard, behind its title.
-class Announcer : public Speech {
+class Announcer : public Speech, QAccessible::ActivationObserver {
 public:
     /// `front` gives the window in front, null for none.
     explicit Announcer(std::function<QWidget*()> front);
@@ -27,8 +28,13 @@ public:
 
     /// Where it is set, somebody listens: it gets what is spoken.
     std::function<void(const QString&)> OnSpoken;
+    /// Called when a screen reader begins to listen, and when it stops.
+    std::function<void(bool listens)> OnHeard;
 
 private:
+    void accessibilityActiveChanged(bool active) override {
+        if (OnHeard) OnHeard(active);
+    }
     void Await();
     void Speak();
     void Notify(QWidget* window, const QString& text);
