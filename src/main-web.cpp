@@ -55,7 +55,8 @@ ZARPI_EXPORT("run") void zarpi_run(Program* program) {
     browser.Run();
 }
 
-/// The pairs of stored files, a line each: the name of the counter, that of the records, and how long each can be, in bytes.
+/// The pairs of stored files, a line each: the name of the counter, that of the records, and how long each can be, in
+/// bytes.
 ZARPI_EXPORT("pairs") const char* zarpi_pairs() {
     static const std::string pairs = [] {
         std::string text;
@@ -76,7 +77,8 @@ ZARPI_EXPORT("counter") char* zarpi_counter() {
     return counter.data();
 }
 
-/// Whether the files of a pair, by its number from 0, fit each other: a counter of `length` bytes and `records` bytes of records.
+/// Whether the files of a pair, by its number from 0, fit each other: a counter of `length` bytes and `records` bytes
+/// of records.
 ZARPI_EXPORT("fit") bool zarpi_fit(std::size_t pair, std::size_t length, std::size_t records) {
     return juego::Encajan({zarpi_counter(), std::min(length, kCounter)}, records, juego::Pares.at(pair));
 }

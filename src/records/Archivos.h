@@ -52,8 +52,8 @@ std::optional<int> NúmeroDeContador(std::string_view content, const Par& par);
 /// The number in the counter of a pair; nothing also when the file cannot be read.
 std::optional<int> LeerContador(Files& files, const Par& par);
 
-/// Whether the files of a pair, by the content of the one and the length of the other, fit each other: all records are whole,
-/// and there are at least as many as the counter says.
+/// Whether the files of a pair, by the content of the one and the length of the other, fit each other: all records are
+/// whole, and there are at least as many as the counter says.
 bool Encajan(std::string_view contador, std::size_t largo, const Par& par);
 
 /// Replaces the counter of a pair in one step. False on failure.

@@ -8,8 +8,8 @@
 
 #include "Carpeta.h"
 #include "headless/Player.h"
-#include "shell/Juego.h"
 #include "headless/ScriptFolder.h"
+#include "shell/Juego.h"
 
 using namespace platform;
 using namespace platform::headless;
