@@ -1,6 +1,8 @@
 // The program, which is one coroutine: it runs until it waits for an event, and from each event to the next wait.
 
 const REWINDING = 2;
+const DECODER = new TextDecoder();
+const ENCODER = new TextEncoder();
 
 /** What the program throws when it has ended. */
 class Ended {}
@@ -82,7 +84,7 @@ export class Program {
 
   /** A text in the program's memory. */
   text(address, length) {
-    return new TextDecoder().decode(this.bytes(address, length));
+    return DECODER.decode(this.bytes(address, length));
   }
 
   /** What the program is made with. */
@@ -96,7 +98,7 @@ export class Program {
       next_event: (buffer, capacity) => {
         if (this.#exports.asyncify_get_state() === REWINDING) {
           this.#exports.asyncify_stop_rewind();
-          return new TextEncoder().encodeInto(this.#event, this.bytes(buffer, capacity)).written;
+          return ENCODER.encodeInto(this.#event, this.bytes(buffer, capacity)).written;
         }
         this.#exports.asyncify_start_unwind(this.#area);
         return 0;
