@@ -37,7 +37,7 @@ bool IsMoved(const Control& control, std::span<const Move> moves) {
 }
 
 Stand AsDesigned(const Control& control) {
-    return {control, 1};
+    return {static_cast<const Place&>(control), 1};
 }
 
 Stand Moved(const Control& control, std::span<const Move> moves, Spot corner) {

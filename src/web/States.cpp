@@ -121,8 +121,12 @@ std::string ShortcutOf(const Key& key) {
 }  // namespace
 
 Frame FrameOf(const Form& form, const Order* order) {
-    if (order == nullptr) return {.look = form, .width = form.Width, .height = form.Height};
-    return {.look = form, .width = order->Width, .height = order->Height, .isNarrow = order->FillsWidth};
+    if (order == nullptr)
+        return {.look = static_cast<const FormLook&>(form), .width = form.Width, .height = form.Height};
+    return {.look = static_cast<const FormLook&>(form),
+            .width = order->Width,
+            .height = order->Height,
+            .isNarrow = order->FillsWidth};
 }
 
 std::string StateOf(const Form& form, const Frame& frame) {
