@@ -37,7 +37,7 @@ Value Length(const Scale& scale, int pixels, int wantedPixels, const Value& stat
 /// Where a widget has to lie. Edges are rounded; a picture box stands on whole pixels of the design, and a line has its
 /// width on both sides.
 QRect WantedPlace(const Scale& scale, const Control& control) {
-    const Place place = control;
+    const auto place = static_cast<const Place&>(control);
     const QRect box = scale.Rect(control.kind == Kind::PictureBox ? OnPixels(place) : place);
     if (control.kind != Kind::Line) return box;
     const int line = scale.LineWidth(static_cast<const Line&>(control).BorderWidth);
