@@ -133,7 +133,8 @@ export class Sound {
   setHidden(isHidden) {
     this.#isHidden = isHidden;
     clearTimeout(this.#pause);
-    if (this.#context === null) return;
+    // The program tells the table before its first sound.
+    if (this.#context === null || this.#mix === undefined) return;
     const { silence, stop, up } = this.#mix;
     this.#all.goTo(isHidden ? silence : 0, isHidden ? stop : up);
     if (!isHidden) return this.wake();

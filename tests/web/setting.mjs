@@ -61,7 +61,7 @@ const LAST_WORDS = { "Ultimo.dat": " 1 \r\n", "Guardar.rnd": " 29 1 0 60 420 281
 export async function resumeAtTheEnd(player) {
   await player.page.evaluate(async (files) => {
     const wait = (request) => new Promise((done) => (request.onsuccess = () => done(request.result)));
-    const database = await wait(indexedDB.open("zarpi", 1));
+    const database = await wait(indexedDB.open("zarpi /", 1));
     const store = database.transaction("files", "readwrite").objectStore("files");
     for (const [name, text] of Object.entries(files)) await wait(store.put(Uint8Array.from(text, (one) => one.charCodeAt(0)), name));
     database.close();
